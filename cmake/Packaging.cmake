@@ -1,0 +1,13 @@
+include(CMakePackageConfigHelpers)
+
+set(TVPOLICY_CMAKE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/tvpolicy")
+install(EXPORT tvpolicyTargets NAMESPACE tvpolicy:: DESTINATION "${TVPOLICY_CMAKE_DIR}")
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/tvpolicyConfig.cmake.in"
+  "${PROJECT_BINARY_DIR}/tvpolicyConfig.cmake" INSTALL_DESTINATION "${TVPOLICY_CMAKE_DIR}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/tvpolicyConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/tvpolicyConfig.cmake"
+  "${PROJECT_BINARY_DIR}/tvpolicyConfigVersion.cmake" DESTINATION "${TVPOLICY_CMAKE_DIR}")
+
+configure_file("${PROJECT_SOURCE_DIR}/cmake/tvpolicy.pc.in" "${PROJECT_BINARY_DIR}/tvpolicy.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/tvpolicy.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, then configures and builds tvpolicy in build/ (or $BUILD_DIR).
+# Extra arguments go to the CMake configure step, e.g. -DTVPOLICY_BUILD_BENCH=ON.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/setup.sh
+build_dir=${BUILD_DIR:-build}
+cmake -S . -B "$build_dir" -G Ninja "$@" >/dev/null
+cmake --build "$build_dir"

@@ -1,0 +1,6 @@
+#!/usr/bin/env bash
+# Builds tvpolicy (see build.sh) and runs every test.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/build.sh "$@"
+ctest --test-dir "${BUILD_DIR:-build}" --output-on-failure -j "$(nproc)"

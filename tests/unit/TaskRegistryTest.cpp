@@ -1,0 +1,145 @@
+#include <tvpolicy/policy/Task.h>
+#include <tvpolicy/policy/TaskFactory.h>
+#include <tvpolicy/policy/TaskMap.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+// Every kind the library registers, in the order the registry must hold them.
+const std::vector<std::string> registeredKinds = {
+};
+
+class RecordingTask : public Task {
+public:
+    static Task* create() { return new RecordingTask; }
+    void setAttribute(Attribute* attribute) override { seen.push_back(attribute->first + "=" + attribute->second); }
+    TaskResponse* perform() override { return new TaskResponse; }
+    std::string getType() override { return "RecordingTask"; }
+    std::vector<std::string> seen;
+};
+
+class OtherTask : public RecordingTask {
+public:
+    static Task* create() { return new OtherTask; }
+    std::string getType() override { return "OtherTask"; }
+};
+
+std::vector<std::string> namesOf(const TaskMap& map)
+{
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < map.size(); ++i) {
+        names.push_back(map.entry(i).name);
+    }
+    return names;
+}
+
+TEST(TaskRegistry, HoldsEveryKindOfTheLibraryInOrder)
+{
+    EXPECT_EQ(namesOf(TaskFactory::getMap()), registeredKinds);
+}
+
+TEST(TaskRegistry, DumpListsTheRegistryExactly)
+{
+    std::string expected = "Tasks Registered with TaskFactory:\n";
+    for (const std::string& name : registeredKinds) {
+        expected += "\t" + name + "\n";
+    }
+    testing::internal::CaptureStdout();
+    TaskFactory::dump();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), expected);
+}
+
+struct LookupCase {
+    std::string name;
+    Task* (*expected)();
+};
+
+class TaskMapLookupTest : public testing::TestWithParam<LookupCase> {
+protected:
+    void SetUp() override
+    {
+        map.add("RecordingTask", &RecordingTask::create);
+        map.add("OtherTask", &OtherTask::create);
+        map.add("RecordingTask", &OtherTask::create);  // a duplicate is kept, but never found
+    }
+    TaskMap map;
+};
+
+TEST_P(TaskMapLookupTest, FirstExactMatchWins) { EXPECT_EQ(map.get(GetParam().name), GetParam().expected); }
+
+INSTANTIATE_TEST_SUITE_P(Names, TaskMapLookupTest, testing::Values(
+    LookupCase{"RecordingTask", &RecordingTask::create},
+    LookupCase{"OtherTask", &OtherTask::create},
+    LookupCase{"recordingtask", nullptr},
+    LookupCase{"Recording", nullptr},
+    LookupCase{"RecordingTask ", nullptr},
+    LookupCase{"", nullptr}));
+
+TEST(TaskMap, RefusesTheHundredAndFirstEntry)
+{
+    TaskMap map;
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_TRUE(map.add("Kind" + std::to_string(i), &RecordingTask::create)) << i;
+    }
+    EXPECT_FALSE(map.add("Kind100", &OtherTask::create));
+    EXPECT_EQ(map.size(), 100u);
+    EXPECT_EQ(map.get("Kind0"), &RecordingTask::create);
+    EXPECT_EQ(map.get("Kind99"), &RecordingTask::create);
+    EXPECT_EQ(map.get("Kind100"), nullptr);
+}
+
+TEST(TaskFactory, UnknownNamesCreateNothing)
+{
+    for (const char* name : {"", "and", "ANDTask", "NoSuchTask", "Task"}) {
+        EXPECT_EQ(TaskFactory::createTask(name), nullptr) << name;
+    }
+}
+
+TEST(TaskFactory, CacheIsSwitchedOff)
+{
+    TaskResponse response;
+    TaskFactory::addCachedResult("key", &response);
+    EXPECT_EQ(TaskFactory::getCachedResult("key"), nullptr);
+    EXPECT_EQ(TaskFactory::getCachedResult(""), nullptr);
+}
+
+TEST(Task, BaseOperationsOfALeafKind)
+{
+    RecordingTask task;
+    RecordingTask term;
+    EXPECT_EQ(task.hashCode(), "");
+    EXPECT_EQ(task.getTerms(), nullptr);
+    task.addTerm(&term);  // not taken: the term is destroyed by its own scope
+    EXPECT_EQ(task.getTerms(), nullptr);
+    EXPECT_FALSE(task.passed());
+}
+
+TEST(Task, SetAttributesStopsAtTheFirstNull)
+{
+    Task::Attribute a{"name", "Finder"}, b{"prohibit", "true"}, c{"never", "seen"};
+    RecordingTask task;
+    task.setAttributes(&a, &b, static_cast<Task::Attribute*>(nullptr), &c);
+    EXPECT_EQ(task.seen, (std::vector<std::string>{"name=Finder", "prohibit=true"}));
+
+    RecordingTask none;
+    none.setAttributes(nullptr);
+    EXPECT_TRUE(none.seen.empty());
+}
+
+TEST(TaskResponse, StartsEmpty)
+{
+    TaskResponse zero(0);
+    EXPECT_EQ(zero.code, 0);
+    TaskResponse fresh;
+    EXPECT_EQ(fresh.code, -1);
+    EXPECT_FALSE(fresh.passed);
+    EXPECT_FALSE(fresh.skip);
+    EXPECT_EQ(fresh.failedResponse, nullptr);
+    EXPECT_TRUE(fresh.message.empty() && fresh.detail.empty());
+}
+
+}  // namespace

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "Console.h"
+
+namespace cli {
+
+/// What a subcommand does once the command line is parsed; returns the exit status.
+using CommandAction = std::function<int(Console&)>;
+
+/// A subcommand of tvpolicy. Each lives in its own file and registers itself:
+///
+///     const bool registered = cli::registerCommand({"tasks", "List ...", 10, &setupTasks});
+///
+/// `setup` adds the subcommand's options to `app` (already named and described) and returns
+/// the action to run when the subcommand is chosen; the options are bound to state the action
+/// shares.
+struct Command {
+    std::string name;
+    std::string description;
+    int order;  // position in --help
+    std::function<CommandAction(CLI::App& app)> setup;
+};
+
+bool registerCommand(Command command);
+/// The registered subcommands, in --help order.
+std::vector<Command> registeredCommands();
+
+/// Exit statuses shared by the subcommands.
+enum ExitStatus { exitPassed = 0, exitFailed = 1, exitUsage = 2 };
+
+}  // namespace cli

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <streambuf>
+
+namespace cli {
+
+/// A buffered output stream buffer over a file descriptor that it does not own.
+class FdStreamBuf : public std::streambuf {
+public:
+    explicit FdStreamBuf(int fd);
+    ~FdStreamBuf() override;
+    FdStreamBuf(const FdStreamBuf&) = delete;
+    FdStreamBuf& operator=(const FdStreamBuf&) = delete;
+
+protected:
+    int_type overflow(int_type c) override;
+    int sync() override;
+
+private:
+    bool drain();
+
+    int fd_;
+    std::array<char, 4096> buffer_{};
+};
+
+}  // namespace cli
