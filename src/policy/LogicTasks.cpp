@@ -1,0 +1,271 @@
+// The logic kinds: and, or, not, true, false and Validate. Their registrations run in the order
+// of the definitions of their `dummy` members below.
+#include <tvpolicy/policy/ValidateTask.h>
+#include <tvpolicy/policy/andTask.h>
+#include <tvpolicy/policy/falseTask.h>
+#include <tvpolicy/policy/notTask.h>
+#include <tvpolicy/policy/orTask.h>
+#include <tvpolicy/policy/trueTask.h>
+
+#include <iostream>
+#include <utility>
+#include <vector>
+
+#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/policy/TaskFactory.h>
+
+bool andTask::dummy = TaskFactory::addTask("andTask", &andTask::create);
+bool falseTask::dummy = TaskFactory::addTask("falseTask", &falseTask::create);
+bool notTask::dummy = TaskFactory::addTask("notTask", &notTask::create);
+bool orTask::dummy = TaskFactory::addTask("orTask", &orTask::create);
+bool trueTask::dummy = TaskFactory::addTask("trueTask", &trueTask::create);
+bool ValidateTask::dummy = TaskFactory::addTask("ValidateTask", &ValidateTask::create);
+
+namespace {
+
+void traceTerm(Task& term, bool passed) { debug(term.getType() + (passed ? " Passed" : " Failed"), ""); }
+
+}  // namespace
+
+// Deletes composite trees without recursion: a tree nested as deep as a document allows must
+// not exhaust the stack when it is destroyed. Each composite's terms are taken out of it before
+// it is deleted, so its own destructor finds nothing left to delete.
+class LogicTermRelease {
+public:
+    static void destroy(std::vector<Task*> pending)
+    {
+        while (!pending.empty()) {
+            Task* task = pending.back();
+            pending.pop_back();
+            takeTerms(task, pending);
+            delete task;
+        }
+    }
+
+private:
+    static void takeTerms(Task* task, std::vector<Task*>& pending)
+    {
+        if (auto* all = dynamic_cast<andTask*>(task)) {
+            moveAll(all->terms, pending);
+        } else if (auto* any = dynamic_cast<orTask*>(task)) {
+            moveAll(any->terms, pending);
+        } else if (auto* inverse = dynamic_cast<notTask*>(task)) {
+            if (inverse->term != nullptr) {
+                pending.push_back(std::exchange(inverse->term, nullptr));
+            }
+        }
+    }
+
+    static void moveAll(std::list<Task*>& terms, std::vector<Task*>& pending)
+    {
+        pending.insert(pending.end(), terms.begin(), terms.end());
+        terms.clear();
+    }
+};
+
+// andTask
+
+Task* andTask::create() { return new andTask; }
+
+void andTask::setAttribute(Attribute* attribute)
+{
+    if (attribute->second != "true") {
+        return;
+    }
+    if (attribute->first == "skip") {
+        skip = true;
+    } else if (attribute->first == "skipEmpty") {
+        skipEmpty = true;
+    }
+}
+
+TaskResponse* andTask::perform()
+{
+    auto* result = new TaskResponse(0);
+    bool allPassed = true;
+    for (Task* term : terms) {
+        std::string key = term->hashCode();
+        TaskResponse* response = TaskFactory::getCachedResult(key);
+        if (response == nullptr) {
+            response = term->perform();
+            TaskFactory::addCachedResult(key, response);
+        }
+        bool termPassed = response != nullptr && response->passed;
+        traceTerm(*term, termPassed);
+        if (!termPassed) {
+            result->failedResponse = response;
+            result->message = getType() + "/" + (response != nullptr ? response->message : std::string());
+            allPassed = false;
+        }
+        if (key.empty()) {
+            delete response;
+        }
+        if (!allPassed) {
+            break;
+        }
+    }
+    if (allPassed && skip) {
+        result->skip = true;
+    }
+    result->passed = passed_ = allPassed;
+    return result;
+}
+
+std::string andTask::getType() { return "andTask"; }
+
+void andTask::addTerm(Task* term) { terms.push_back(term); }
+
+std::list<Task*>* andTask::getTerms() { return &terms; }
+
+andTask::~andTask() { LogicTermRelease::destroy({terms.begin(), terms.end()}); }
+
+// orTask
+
+Task* orTask::create() { return new orTask; }
+
+void orTask::setAttribute(Attribute*) {}
+
+TaskResponse* orTask::perform()
+{
+    auto* result = new TaskResponse(0);
+    passed_ = false;
+    std::string failures;
+    for (Task* term : terms) {
+        TaskResponse* response = term->perform();
+        if (response == nullptr) {
+            continue;
+        }
+        if (response->skip) {
+            result->skip = true;
+        }
+        traceTerm(*term, response->passed);
+        if (response->passed) {
+            passed_ = true;
+            delete response;
+            break;
+        }
+        failures += (failures.empty() ? "" : ",") + getType() + "/" + response->message;
+        delete response;
+    }
+    result->passed = !terms.empty() && passed_;
+    result->message = failures;
+    passed_ = result->passed;
+    return result;
+}
+
+std::string orTask::getType() { return "orTask"; }
+
+void orTask::addTerm(Task* term) { terms.push_back(term); }
+
+std::list<Task*>* orTask::getTerms() { return &terms; }
+
+orTask::~orTask() { LogicTermRelease::destroy({terms.begin(), terms.end()}); }
+
+// notTask
+
+Task* notTask::create() { return new notTask; }
+
+void notTask::setAttribute(Attribute*) {}
+
+TaskResponse* notTask::perform()
+{
+    if (term == nullptr) {
+        tvi::tslog(std::cout) << "notTask: no nested check to invert; the not fails" << std::endl;
+        auto* response = new TaskResponse;
+        response->message = getType() + "/no nested check";
+        passed_ = false;
+        return response;
+    }
+    std::string key = term->hashCode();
+    TaskResponse* response = TaskFactory::getCachedResult(key);
+    if (response == nullptr) {
+        response = term->perform();
+        if (response == nullptr) {
+            response = new TaskResponse;
+        }
+        response->passed = !response->passed;
+        response->message = getType() + "/" + response->message;
+        TaskFactory::addCachedResult(key, response);
+    }
+    traceTerm(*term, response->passed);
+    passed_ = response->passed;
+    return response;
+}
+
+std::string notTask::getType() { return "notTask"; }
+
+void notTask::addTerm(Task* newTerm)
+{
+    if (term != nullptr) {
+        LogicTermRelease::destroy({term});
+    }
+    term = newTerm;
+}
+
+std::list<Task*>* notTask::getTerms()
+{
+    auto* list = new std::list<Task*>;
+    if (term != nullptr) {
+        list->push_back(term);
+    }
+    return list;
+}
+
+notTask::~notTask()
+{
+    if (term != nullptr) {
+        LogicTermRelease::destroy({term});
+    }
+}
+
+// trueTask, falseTask
+
+Task* trueTask::create() { return new trueTask; }
+
+void trueTask::setAttributes(Attribute*, ...) {}
+
+void trueTask::setAttribute(Attribute*) {}
+
+TaskResponse* trueTask::perform()
+{
+    auto* response = new TaskResponse(-1);
+    response->passed = passed_ = true;
+    return response;
+}
+
+std::string trueTask::getType() { return "trueTask"; }
+
+Task* falseTask::create() { return new falseTask; }
+
+void falseTask::setAttribute(Attribute*) {}
+
+TaskResponse* falseTask::perform()
+{
+    auto* response = new TaskResponse(-1);
+    response->passed = passed_ = false;
+    return response;
+}
+
+std::string falseTask::getType() { return "falseTask"; }
+
+// ValidateTask
+
+Task* ValidateTask::create() { return new ValidateTask; }
+
+void ValidateTask::setAttribute(Attribute* attribute)
+{
+    if (attribute->first == "status") {
+        status = attribute->second;
+    }
+}
+
+TaskResponse* ValidateTask::perform()
+{
+    auto* response = new TaskResponse(0);
+    response->passed = passed_ = (status == "true");
+    response->message = passed_ ? "ValidateTask Enabled" : "ValidateTask disabled.";
+    return response;
+}
+
+std::string ValidateTask::getType() { return "ValidateTask"; }
