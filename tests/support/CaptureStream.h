@@ -3,6 +3,7 @@
 #include <ostream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace testing_support {
 
@@ -25,5 +26,8 @@ private:
 
 /// The lines of a log text with their "YYYY-MM-DD HH:MM:SS UTC :: " prefixes removed.
 std::string withoutTimestamps(const std::string& log);
+
+/// The lines of a log text, each without its timestamp prefix and without a "Debug: " marker.
+std::vector<std::string> logMessages(const std::string& log);
 
 }  // namespace testing_support

@@ -4,11 +4,12 @@
 
 #include <iostream>
 
-#include "support/CapturedStream.h"
+#include "support/CaptureStream.h"
 
 namespace {
 
-using testing_support::CapturedStream;
+using testing_support::CaptureStream;
+using testing_support::logMessages;
 
 // The two lines that close every comparison; they show the system text as passed.
 std::vector<std::string> closingLines(const std::string& requested, const std::string& system, const std::string& delim,
@@ -46,10 +47,10 @@ TEST_P(DelimVersionRules, Compare)
 {
     const CompareCase& c = GetParam();
     DelimVersion version = withOperator(c.op, c.normalize);
-    CapturedStream log(std::clog);
+    CaptureStream log(std::clog);
     EXPECT_EQ(version.versionAtLeast(c.requested, c.delim, c.system), c.expected);
 
-    std::vector<std::string> lines = log.messages();
+    std::vector<std::string> lines = logMessages(log.text());
     ASSERT_GE(lines.size(), 2u);
     EXPECT_EQ(std::vector<std::string>(lines.end() - 2, lines.end()),
               closingLines(c.requested, c.system, c.delim, c.expected));
@@ -145,9 +146,9 @@ TEST(DelimVersion, OutOfRangeCodesCompareFalse)
 TEST(DelimVersion, GreaterThanLogsEachStepAndTheTie)
 {
     DelimVersion version(std::string("gt"));
-    CapturedStream log(std::clog);
+    CaptureStream log(std::clog);
     EXPECT_FALSE(version.versionAtLeast("10.6", ".", "10.6"));
-    EXPECT_EQ(log.messages(), (std::vector<std::string>{
+    EXPECT_EQ(logMessages(log.text()), (std::vector<std::string>{
         "done = false retval = true",
         "Last one",
         "done = true retval = false",
@@ -159,9 +160,9 @@ TEST(DelimVersion, OnlyGreaterThanLogsSteps)
 {
     for (std::string op : {"gte", "eq", "lte", "lt"}) {
         DelimVersion version(op);
-        CapturedStream log(std::clog);
+        CaptureStream log(std::clog);
         version.versionAtLeast("10.6", ".", "10.6");
-        EXPECT_EQ(log.messages().size(), 2u) << op;
+        EXPECT_EQ(logMessages(log.text()).size(), 2u) << op;
     }
 }
 
@@ -203,14 +204,14 @@ TEST_P(DelimVersionReorder, Compare)
 {
     const ReorderCase& c = GetParam();
     DelimVersion version = withOperator(c.op, c.normalize);
-    CapturedStream log(std::clog);
+    CaptureStream log(std::clog);
     EXPECT_EQ(version.versionAtLeastReorder(c.requested, ".", c.system, c.order), c.expected);
 
     std::vector<std::string> expected = c.log;
     for (const std::string& line : closingLines(c.requested, c.shownSystem, ".", c.expected)) {
         expected.push_back(line);
     }
-    EXPECT_EQ(log.messages(), expected);
+    EXPECT_EQ(logMessages(log.text()), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Orders, DelimVersionReorder, testing::Values(

@@ -1,0 +1,78 @@
+#include <tvpolicy/checks/FileTask.h>
+
+#include <algorithm>
+#include <exception>
+
+#include <tvpolicy/checks/DelimVersion.h>
+#include <tvpolicy/checks/File.h>
+#include <tvpolicy/policy/TaskFactory.h>
+
+bool FileTask::whatever = TaskFactory::addTask("FileTask", &FileTask::create);
+
+Task* FileTask::create() { return new FileTask; }
+
+std::string FileTask::getType() { return "FileTask"; }
+
+void FileTask::setAttribute(Attribute* attribute)
+{
+    const std::string& name = attribute->first;
+    const std::string& value = attribute->second;
+    if (name == "fileName") {
+        fileName_ = value;
+    } else if (name == "execute") {
+        execute_ = value == "true";
+    } else if (name == "args") {
+        args_ = value;
+    } else if (name == "startPath") {
+        startPath_ = value;
+    } else if (name == "lastModified") {
+        lastModified_ = value;
+    } else if (name == "version") {
+        version_ = value;
+    } else if (name == "wait") {
+        wait_ = value;
+    }
+}
+
+TaskResponse* FileTask::perform()
+{
+    auto* response = new TaskResponse(0);
+    File file(fileName_, execute_, args_, startPath_);
+    file.setWaitOnExecute(wait_);
+
+    bool found = false;
+    try {
+        found = file.exists();
+    } catch (const std::exception&) {
+        found = false;  // the start directory could not be searched: nothing was found there
+    }
+    response->passed = found;
+    if (!found) {
+        response->message = getType() + "/File Not Found";
+    }
+
+    if (!lastModified_.empty()) {
+        std::string newest = "0-0-0";
+        DelimVersion comparer(std::string("gte"));
+        for (std::string path : file.getFileList()) {
+            std::replace(path.begin(), path.end(), '/', '\\');
+            std::string modified = file.getLastModTime(path);
+            if (comparer.versionAtLeast(newest, "-", modified)) {
+                newest = modified;
+            }
+        }
+        response->passed = comparer.versionAtLeast(lastModified_, "-", newest);
+        if (!response->passed) {
+            response->message = getType() + "/Too Old: " + newest;
+        }
+    }
+
+    if (!version_.empty()) {
+        DelimVersion comparer(std::string("gte"));
+        response->passed = comparer.versionAtLeast(version_, ".,", file.getVersion());
+        response->message += getType() + "/File Version: " + file.getVersion();
+    }
+
+    passed_ = response->passed;
+    return response;
+}
