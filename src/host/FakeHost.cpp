@@ -14,4 +14,26 @@ std::string FakeHost::systemPath(const std::string& path) const
     return best == nullptr ? path : best->second + path.substr(best->first.size());
 }
 
+std::string FakeHost::osProductVersion() const { return productVersion; }
+
+std::string FakeHost::osProductName() const { return productName; }
+
+std::string FakeHost::nodeName() const { return node; }
+
+std::string FakeHost::machineArchitecture() const { return architecture; }
+
+HostProbe::HardwareIdentity FakeHost::hardwareIdentity() const { return hardware; }
+
+std::vector<HostProbe::ProcessEntry> FakeHost::processTable() const { return processes; }
+
+std::string FakeHost::dnsFlushCommand() const { return flushCommand; }
+
+int FakeHost::runShellCommand(const std::string& command)
+{
+    commandsRun.push_back(command);
+    return commandStatus;
+}
+
+void FakeHost::openURL(const std::string& url) { openedURLs.push_back(url); }
+
 }  // namespace tvpolicy

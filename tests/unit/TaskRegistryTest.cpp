@@ -12,7 +12,7 @@ namespace {
 // Every kind the library registers, in the order the registry must hold them.
 const std::vector<std::string> registeredKinds = {
     "andTask", "falseTask", "notTask", "orTask", "trueTask", "ValidateTask",
-    "FileTask",
+    "FileTask", "ProcessExistsTask",
 };
 
 class RecordingTask : public Task {

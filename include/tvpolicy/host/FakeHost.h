@@ -2,14 +2,16 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include <tvpolicy/export.h>
 #include <tvpolicy/host/HostProbe.h>
 
 namespace tvpolicy {
 
-/// A described host: every fact is a plain field that the caller sets. Used with ScopedHost to
-/// run checks against exact facts.
+/// A described host: every fact is a plain field that the caller sets, and every command the
+/// library issues is recorded instead of run. Used with ScopedHost to run checks against exact
+/// facts.
 class TVPOLICY_API FakeHost : public HostProbe {
 public:
     /// Fixed system paths mapped by prefix: {"/Library/Receipts/", "/tmp/x/receipts/"} sends
@@ -17,7 +19,28 @@ public:
     /// wins; an unmapped path is answered unchanged.
     std::map<std::string, std::string> pathMap;
 
+    std::string productVersion;       ///< answered by osProductVersion(), as a tool prints it
+    std::string productName;          ///< answered by osProductName()
+    std::string node;                 ///< answered by nodeName()
+    std::string architecture;         ///< answered by machineArchitecture()
+    HardwareIdentity hardware;        ///< answered by hardwareIdentity()
+    std::vector<ProcessEntry> processes;  ///< answered by processTable()
+    std::string flushCommand;         ///< answered by dnsFlushCommand()
+
+    int commandStatus = 0;                 ///< what runShellCommand returns
+    std::vector<std::string> commandsRun;  ///< every command given to runShellCommand, in order
+    std::vector<std::string> openedURLs;   ///< every URL given to openURL, in order
+
     std::string systemPath(const std::string& path) const override;
+    std::string osProductVersion() const override;
+    std::string osProductName() const override;
+    std::string nodeName() const override;
+    std::string machineArchitecture() const override;
+    HardwareIdentity hardwareIdentity() const override;
+    std::vector<ProcessEntry> processTable() const override;
+    std::string dnsFlushCommand() const override;
+    int runShellCommand(const std::string& command) override;
+    void openURL(const std::string& url) override;
 };
 
 }  // namespace tvpolicy

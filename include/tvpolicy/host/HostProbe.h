@@ -1,25 +1,78 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include <tvpolicy/export.h>
 
 namespace tvpolicy {
 
 /// Everything the library learns from, or asks of, the operating system goes through a host
-/// probe. The checks and documents hold the rules; a probe only reads raw values.
+/// probe. The checks and documents hold the rules; a probe only reads raw values (and runs the
+/// few commands the library issues).
 ///
 /// The current probe is the real backend of this operating system unless a ScopedHost swaps in
 /// another: an embedder may describe a host of its own (for example to evaluate a policy
 /// against another machine's facts), and tests describe exact hosts with FakeHost.
+///
+/// Values are raw: the library strips what it needs to strip (trailing newlines of command
+/// output, the domain part of a node name), so a described host may hand over text exactly as
+/// a system tool would print it.
 class TVPOLICY_API HostProbe {
 public:
+    /// One entry of the process table.
+    struct ProcessEntry {
+        long pid = 0;
+        /// The kernel's short command name (truncated by the kernel: 15 characters on Linux).
+        std::string shortName;
+        /// The full path of the executable; absent when it cannot be read (a process of
+        /// another user without privilege, a kernel thread, a zombie).
+        std::optional<std::string> executablePath;
+    };
+
+    /// The maker's identity of the hardware. A field is absent when the host does not record
+    /// it or it cannot be read; present but empty is a recorded empty value.
+    struct HardwareIdentity {
+        std::optional<std::string> manufacturer;
+        std::optional<std::string> productName;
+        std::optional<std::string> version;
+        std::optional<std::string> uuid;
+        std::optional<std::string> serialNumber;
+    };
+
     virtual ~HostProbe();
 
     /// Where a fixed system path (such as /Library/Receipts/) is found on this host. The real
     /// backend answers the path itself; a described host may map it into a folder of its own.
     virtual std::string systemPath(const std::string& path) const = 0;
+
+    /// The operating system's product version ("10.6.8", "12"); empty when unknown.
+    virtual std::string osProductVersion() const = 0;
+    /// The operating system's product name ("Mac OS X", "Debian GNU/Linux"); empty when unknown.
+    virtual std::string osProductName() const = 0;
+    /// The node name as the kernel reports it, possibly with a domain ("alpha.lan").
+    virtual std::string nodeName() const = 0;
+    /// The machine's processor architecture as the kernel reports it ("x86_64").
+    virtual std::string machineArchitecture() const = 0;
+    /// Manufacturer, product, version, UUID and serial number of the hardware.
+    virtual HardwareIdentity hardwareIdentity() const = 0;
+
+    /// The whole process table, read afresh. A process that ends while the table is read is
+    /// left out; the order is the system's.
+    virtual std::vector<ProcessEntry> processTable() const = 0;
+
+    /// The shell command that empties this host's DNS resolver cache, or empty when the host
+    /// offers none (no caching resolver runs, or the OS is too old to have a tool for it).
+    virtual std::string dnsFlushCommand() const = 0;
+
+    /// Runs `command` through the shell without reading its output and waits for it. Returns
+    /// the command's wait status, or 0 when no shell could be started.
+    virtual int runShellCommand(const std::string& command) = 0;
+
+    /// Opens `url` in the user's browser; unchecked, returns at once when nothing opens it.
+    virtual void openURL(const std::string& url) = 0;
 };
 
 /// The probe in use on this thread's process: the real backend unless a ScopedHost is alive.

@@ -1,8 +1,204 @@
 #include "host/probe/linux/LinuxHostProbe.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/utsname.h>
+#include <unistd.h>
+
+#include "host/parse/OsRelease.h"
+#include "host/parse/ProcText.h"
+
 namespace tvpolicy {
 
+namespace {
+
+struct DirCloser {
+    void operator()(DIR* dir) const { ::closedir(dir); }
+};
+
+struct PipeCloser {
+    void operator()(std::FILE* stream) const { ::pclose(stream); }
+};
+
+// Reads at most `limit` bytes of the file at `path` (relative to `dirFd`) into `text`. False
+// when it cannot be opened or read, for instance because its process has just ended.
+bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text)
+{
+    int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0) {
+        return false;
+    }
+    struct Closer {
+        int fd;
+        ~Closer() { ::close(fd); }
+    } closer{fd};
+    text.clear();
+    char buffer[4096];
+    while (text.size() < limit) {
+        std::size_t want = std::min(sizeof buffer, limit - text.size());
+        ssize_t got = ::read(fd, buffer, want);
+        if (got < 0) {
+            return false;
+        }
+        if (got == 0) {
+            break;
+        }
+        text.append(buffer, static_cast<std::size_t>(got));
+    }
+    return true;
+}
+
+bool isPid(const char* name)
+{
+    if (*name == '\0') {
+        return false;
+    }
+    for (; *name != '\0'; ++name) {
+        if (*name < '0' || *name > '9') {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Single-quotes `text` for the shell, so that a URL is one argument whatever it holds.
+std::string shellQuoted(const std::string& text)
+{
+    std::string quoted = "'";
+    for (char c : text) {
+        if (c == '\'') {
+            quoted += "'\\''";
+        } else {
+            quoted += c;
+        }
+    }
+    return quoted + "'";
+}
+
+// os-release files hold a few hundred bytes; anything past this is not one.
+constexpr std::size_t osReleaseLimit = 64 * 1024;
+constexpr std::size_t attributeLimit = 4096;
+
+}  // namespace
+
+LinuxHostProbe::LinuxHostProbe(std::string root) : root_(std::move(root)) {}
+
 std::string LinuxHostProbe::systemPath(const std::string& path) const { return path; }
+
+std::string LinuxHostProbe::osReleaseValue(const std::string& name) const
+{
+    std::string text;
+    for (const char* file : {"/etc/os-release", "/usr/lib/os-release"}) {
+        if (readAt(AT_FDCWD, (root_ + file).c_str(), osReleaseLimit, text)) {
+            return parse::OsRelease::parse(text).value(name);
+        }
+    }
+    return std::string();
+}
+
+std::string LinuxHostProbe::osProductVersion() const { return osReleaseValue("VERSION_ID"); }
+
+std::string LinuxHostProbe::osProductName() const { return osReleaseValue("NAME"); }
+
+std::string LinuxHostProbe::nodeName() const
+{
+    utsname names{};
+    return ::uname(&names) == 0 ? std::string(names.nodename) : std::string();
+}
+
+std::string LinuxHostProbe::machineArchitecture() const
+{
+    utsname names{};
+    return ::uname(&names) == 0 ? std::string(names.machine) : std::string();
+}
+
+std::optional<std::string> LinuxHostProbe::dmiAttribute(const char* name) const
+{
+    std::string text;
+    if (!readAt(AT_FDCWD, (root_ + "/sys/class/dmi/id/" + name).c_str(), attributeLimit, text)) {
+        return std::nullopt;
+    }
+    return parse::sysfsValue(text);
+}
+
+HostProbe::HardwareIdentity LinuxHostProbe::hardwareIdentity() const
+{
+    HardwareIdentity identity;
+    identity.manufacturer = dmiAttribute("sys_vendor");
+    identity.productName = dmiAttribute("product_name");
+    identity.version = dmiAttribute("product_version");
+    identity.uuid = dmiAttribute("product_uuid");
+    identity.serialNumber = dmiAttribute("product_serial");
+    return identity;
+}
+
+std::vector<HostProbe::ProcessEntry> LinuxHostProbe::processTable() const
+{
+    std::vector<ProcessEntry> table;
+    std::unique_ptr<DIR, DirCloser> proc(::opendir((root_ + "/proc").c_str()));
+    if (!proc) {
+        return table;
+    }
+    const int procFd = ::dirfd(proc.get());
+    std::string comm;
+    char path[sizeof(dirent::d_name) + 8];
+    char target[4096];
+    while (const dirent* entry = ::readdir(proc.get())) {
+        if (!isPid(entry->d_name)) {
+            continue;
+        }
+        std::snprintf(path, sizeof path, "%s/comm", entry->d_name);
+        if (!readAt(procFd, path, 256, comm)) {
+            continue;  // ended since the folder was listed
+        }
+        ProcessEntry process;
+        process.pid = std::strtol(entry->d_name, nullptr, 10);
+        process.shortName = parse::procCommName(comm);
+        std::snprintf(path, sizeof path, "%s/exe", entry->d_name);
+        ssize_t length = ::readlinkat(procFd, path, target, sizeof target);
+        if (length > 0 && static_cast<std::size_t>(length) < sizeof target) {
+            process.executablePath = parse::procExeTarget(std::string(target, static_cast<std::size_t>(length)));
+        }
+        table.push_back(std::move(process));
+    }
+    return table;
+}
+
+std::string LinuxHostProbe::dnsFlushCommand() const
+{
+    // systemd-resolved (whose command name the kernel cuts to 15 characters) is preferred;
+    // nscd's host cache is the other resolver cache a Linux system runs.
+    bool nscd = false;
+    for (const ProcessEntry& process : processTable()) {
+        if (process.shortName == "systemd-resolve") {
+            return "resolvectl flush-caches";
+        }
+        nscd = nscd || process.shortName == "nscd";
+    }
+    return nscd ? "nscd -i hosts" : std::string();
+}
+
+int LinuxHostProbe::runShellCommand(const std::string& command)
+{
+    std::unique_ptr<std::FILE, PipeCloser> pipe(::popen(command.c_str(), "r"));
+    if (!pipe) {
+        return 0;
+    }
+    return ::pclose(pipe.release());
+}
+
+void LinuxHostProbe::openURL(const std::string& url)
+{
+    // In the background: a browser started by xdg-open may run as long as the person keeps it.
+    int status = std::system(("xdg-open " + shellQuoted(url) + " >/dev/null 2>&1 &").c_str());
+    static_cast<void>(status);
+}
 
 HostProbe& systemHost()
 {

@@ -1,13 +1,36 @@
 #pragma once
 
+#include <string>
+
 #include <tvpolicy/host/HostProbe.h>
 
 namespace tvpolicy {
 
-/// The host probe of Linux: reads /proc, /sys, /etc and the system's tools.
+/// The host probe of Linux: reads /proc, /sys and /etc, and runs the system's tools.
+///
+/// It reads raw texts only and leaves their parsing to the OS-neutral parsers of host/parse/.
+/// The files are looked up below `root` (the real root unless a test gives a folder that is
+/// laid out like one); system paths are never mapped, whatever the root.
 class LinuxHostProbe : public HostProbe {
 public:
+    explicit LinuxHostProbe(std::string root = std::string());
+
     std::string systemPath(const std::string& path) const override;
+    std::string osProductVersion() const override;
+    std::string osProductName() const override;
+    std::string nodeName() const override;
+    std::string machineArchitecture() const override;
+    HardwareIdentity hardwareIdentity() const override;
+    std::vector<ProcessEntry> processTable() const override;
+    std::string dnsFlushCommand() const override;
+    int runShellCommand(const std::string& command) override;
+    void openURL(const std::string& url) override;
+
+private:
+    std::string osReleaseValue(const std::string& name) const;
+    std::optional<std::string> dmiAttribute(const char* name) const;
+
+    std::string root_;
 };
 
 }  // namespace tvpolicy

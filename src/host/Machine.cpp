@@ -1,0 +1,93 @@
+#include <tvpolicy/host/Machine.h>
+
+#include <algorithm>
+#include <iostream>
+#include <optional>
+#include <vector>
+
+#include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/host/Utilities.h>
+
+namespace {
+
+std::string withoutNewlines(std::string text)
+{
+    text.erase(std::remove(text.begin(), text.end(), '\n'), text.end());
+    return text;
+}
+
+// Identity strings are read into 128-byte buffers: at most 127 characters survive.
+std::string identityText(const std::optional<std::string>& value)
+{
+    return value ? value->substr(0, 127) : std::string();
+}
+
+}  // namespace
+
+std::string Machine::getOSVersion()
+{
+    std::string version = withoutNewlines(tvpolicy::currentHost().osProductVersion());
+    tvi::tslog(std::cout) << "Version = " << version << std::endl;
+    return version;
+}
+
+std::string Machine::getOSString()
+{
+    const tvpolicy::HostProbe& host = tvpolicy::currentHost();
+    return withoutNewlines(host.osProductName()) + " " + withoutNewlines(host.osProductVersion());
+}
+
+std::string Machine::getHostName()
+{
+    std::string node = tvpolicy::currentHost().nodeName();
+    std::string dot = ".";
+    std::vector<std::string> words;
+    split(node, dot, words);
+    return words.empty() ? std::string() : words.front();
+}
+
+std::string Machine::getHWDescription() { return tvpolicy::currentHost().machineArchitecture(); }
+
+std::string Machine::getHardwareDesc()
+{
+    tvpolicy::HostProbe::HardwareIdentity identity = tvpolicy::currentHost().hardwareIdentity();
+    std::string description = identity.manufacturer.value_or(std::string());
+    for (const std::optional<std::string>* part : {&identity.productName, &identity.version}) {
+        if (*part) {
+            description += " " + **part;
+        }
+    }
+    return description;
+}
+
+std::string Machine::getSystemUUID() { return identityText(tvpolicy::currentHost().hardwareIdentity().uuid); }
+
+std::string Machine::getSystemSerialNumber()
+{
+    return identityText(tvpolicy::currentHost().hardwareIdentity().serialNumber);
+}
+
+void Machine::launchBrowser(std::string url) { tvpolicy::currentHost().openURL(url); }
+
+void Machine::showMessage(std::string, std::string, std::string) {}
+
+void Machine::shutdown() {}
+void Machine::restart() {}
+void Machine::logOut() {}
+void Machine::clearBrowserCache() {}
+void Machine::clearDNSCache() {}
+void Machine::enableAutoUpdate() {}
+void Machine::disableEthernetBridge() {}
+void Machine::enablePing() {}
+void Machine::enableFirewall() {}
+void Machine::addUser(std::string, std::string) {}
+void Machine::enableDHCP() {}
+void Machine::sleep(long) {}
+void Machine::setHostName(std::string) {}
+bool Machine::hotFixInstalled(std::string) { return false; }
+bool Machine::updatesInstalled() { return false; }
+bool Machine::restartService(std::string) { return false; }
+int Machine::execute(std::string, std::string) { return 0; }
+std::string Machine::getSystemAssetTag() { return std::string(); }
+std::string Machine::getJoinedDomain() { return std::string(); }

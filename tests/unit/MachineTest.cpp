@@ -1,0 +1,164 @@
+#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/Machine.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using tvpolicy::FakeHost;
+using tvpolicy::ScopedHost;
+
+// The text after the UTC prefix of each line.
+std::vector<std::string> messagesOf(const std::string& log)
+{
+    std::vector<std::string> messages;
+    std::string::size_type start = 0;
+    while (start < log.size()) {
+        std::string::size_type end = log.find('\n', start);
+        std::string line = log.substr(start, end - start);
+        std::string::size_type marker = line.find(" UTC :: ");
+        messages.push_back(marker == std::string::npos ? line : line.substr(marker + 8));
+        start = end == std::string::npos ? log.size() : end + 1;
+    }
+    return messages;
+}
+
+struct VersionCase {
+    std::string name;
+    std::string version;
+    std::string osVersion;
+    std::string osString;
+};
+
+class MachineVersionTest : public testing::TestWithParam<VersionCase> {};
+
+TEST_P(MachineVersionTest, StripsEveryNewlineAndLogsTheVersion)
+{
+    FakeHost host;
+    host.productName = GetParam().name;
+    host.productVersion = GetParam().version;
+    ScopedHost scope(host);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(Machine::getOSVersion(), GetParam().osVersion);
+    EXPECT_EQ(messagesOf(testing::internal::GetCapturedStdout()),
+              std::vector<std::string>{"Version = " + GetParam().osVersion});
+    EXPECT_EQ(Machine::getOSString(), GetParam().osString);
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, MachineVersionTest, testing::Values(
+    VersionCase{"Mac OS X\n", "10.15.7\n", "10.15.7", "Mac OS X 10.15.7"},
+    VersionCase{"Debian GNU/Linux", "12", "12", "Debian GNU/Linux 12"},
+    VersionCase{"Odd\nName\n", "\n10.\n6\n", "10.6", "OddName 10.6"},
+    VersionCase{"", "", "", " "}));
+
+struct HostNameCase {
+    std::string node;
+    std::string hostName;
+};
+
+class MachineHostNameTest : public testing::TestWithParam<HostNameCase> {};
+
+TEST_P(MachineHostNameTest, CutsAtTheFirstDot)
+{
+    FakeHost host;
+    host.node = GetParam().node;
+    ScopedHost scope(host);
+    EXPECT_EQ(Machine::getHostName(), GetParam().hostName);
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, MachineHostNameTest, testing::Values(
+    HostNameCase{"alpha", "alpha"},
+    HostNameCase{"alpha.lan", "alpha"},
+    HostNameCase{"alpha.corp.example.com", "alpha"},
+    HostNameCase{".hidden.lan", "hidden"},
+    HostNameCase{"...", ""},
+    HostNameCase{"", ""}));
+
+using Identity = tvpolicy::HostProbe::HardwareIdentity;
+
+struct HardwareCase {
+    Identity identity;
+    std::string description;
+};
+
+class MachineHardwareTest : public testing::TestWithParam<HardwareCase> {};
+
+TEST_P(MachineHardwareTest, JoinsWhatTheHardwareRecords)
+{
+    FakeHost host;
+    host.hardware = GetParam().identity;
+    ScopedHost scope(host);
+    EXPECT_EQ(Machine::getHardwareDesc(), GetParam().description);
+}
+
+INSTANTIATE_TEST_SUITE_P(Identities, MachineHardwareTest, testing::Values(
+    HardwareCase{{"Apple Inc.", "MacBookPro8,1", "1.0", {}, {}}, "Apple Inc. MacBookPro8,1 1.0"},
+    HardwareCase{{{}, "MacBookPro8,1", "1.0", {}, {}}, " MacBookPro8,1 1.0"},
+    HardwareCase{{"LENOVO", {}, "ThinkPad X1", {}, {}}, "LENOVO ThinkPad X1"},
+    HardwareCase{{"LENOVO", "20KH", {}, {}, {}}, "LENOVO 20KH"},
+    HardwareCase{{"QEMU", "", "", {}, {}}, "QEMU  "},
+    HardwareCase{{}, ""}));
+
+TEST(Machine, IdentityTextsAreCutAt127Characters)
+{
+    FakeHost host;
+    host.hardware.uuid = std::string(200, 'u');
+    host.hardware.serialNumber = "C02ABC123";
+    ScopedHost scope(host);
+    EXPECT_EQ(Machine::getSystemUUID(), std::string(127, 'u'));
+    EXPECT_EQ(Machine::getSystemSerialNumber(), "C02ABC123");
+
+    host.hardware = Identity{};
+    EXPECT_EQ(Machine::getSystemUUID(), "");
+    EXPECT_EQ(Machine::getSystemSerialNumber(), "");
+}
+
+TEST(Machine, ArchitectureComesFromTheHost)
+{
+    FakeHost host;
+    host.architecture = "arm64";
+    ScopedHost scope(host);
+    EXPECT_EQ(Machine::getHWDescription(), "arm64");
+}
+
+TEST(Machine, LaunchBrowserHandsTheURLOverUntouched)
+{
+    FakeHost host;
+    ScopedHost scope(host);
+    Machine::launchBrowser("https://nac.example/login?a=1&b='2'");
+    EXPECT_EQ(host.openedURLs, std::vector<std::string>{"https://nac.example/login?a=1&b='2'"});
+}
+
+TEST(Machine, ActionsOfOtherPlatformsDoNothing)
+{
+    FakeHost host;
+    ScopedHost scope(host);
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    Machine::showMessage("Error reading section.", "", "");
+    Machine::shutdown();
+    Machine::restart();
+    Machine::logOut();
+    Machine::clearBrowserCache();
+    Machine::clearDNSCache();
+    Machine::enableAutoUpdate();
+    Machine::disableEthernetBridge();
+    Machine::enablePing();
+    Machine::enableFirewall();
+    Machine::addUser("eve", "secret");
+    Machine::enableDHCP();
+    Machine::sleep(3600);
+    Machine::setHostName("renamed");
+    EXPECT_FALSE(Machine::hotFixInstalled("KB123"));
+    EXPECT_FALSE(Machine::updatesInstalled());
+    EXPECT_FALSE(Machine::restartService("sshd"));
+    EXPECT_EQ(Machine::execute("/bin/rm", "-rf /"), 0);
+    EXPECT_EQ(Machine::getSystemAssetTag(), "");
+    EXPECT_EQ(Machine::getJoinedDomain(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_TRUE(host.commandsRun.empty());
+    EXPECT_TRUE(host.openedURLs.empty());
+}
+
+}  // namespace

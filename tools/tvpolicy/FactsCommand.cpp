@@ -1,0 +1,66 @@
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/Machine.h>
+
+#include "Command.h"
+
+namespace {
+
+struct Fact {
+    const char* key;    // in --json
+    const char* label;  // in the plain listing
+    nlohmann::ordered_json value;
+};
+
+std::vector<Fact> gatherFacts()
+{
+    return {
+        {"osVersion", "OS version", Machine::getOSVersion()},
+        {"os", "OS", Machine::getOSString()},
+        {"hostName", "Host name", Machine::getHostName()},
+        {"architecture", "Architecture", Machine::getHWDescription()},
+        {"hardware", "Hardware", Machine::getHardwareDesc()},
+        {"uuid", "UUID", Machine::getSystemUUID()},
+        {"serialNumber", "Serial number", Machine::getSystemSerialNumber()},
+        {"processCount", "Processes", tvpolicy::currentHost().processTable().size()},
+    };
+}
+
+cli::CommandAction setupFacts(CLI::App& app)
+{
+    auto json = std::make_shared<bool>(false);
+    app.add_flag("--json", *json, "Print the facts as one JSON object");
+    return [json](cli::Console& console) {
+        const auto text = [](const nlohmann::ordered_json& value) {
+            // Hardware strings come from firmware: odd bytes are shown, never refused.
+            return value.is_string() ? value.get<std::string>()
+                                     : value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+        };
+        std::vector<Fact> facts = gatherFacts();
+        if (*json) {
+            nlohmann::ordered_json object = nlohmann::ordered_json::object();
+            for (const Fact& fact : facts) {
+                object[fact.key] = fact.value;
+            }
+            console.out() << object.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+            return cli::exitPassed;
+        }
+        for (const Fact& fact : facts) {
+            std::string label = std::string(fact.label) + ":";
+            label.resize(16, ' ');
+            console.out() << label << text(fact.value) << '\n';
+        }
+        return cli::exitPassed;
+    };
+}
+
+const bool registered = cli::registerCommand(
+    {"facts", "Print this computer's facts: OS, host name, hardware identity, process count", 40, &setupFacts});
+
+}  // namespace
