@@ -1,0 +1,164 @@
+#include <tvpolicy/policy/Option.h>
+
+#include "policy/ItemKey.h"
+
+using tvpolicy::policy::announcedName;
+
+Option::Option(Policy* owner) : Section(owner) {}
+
+Option::~Option()
+{
+    for (Section* section : owned) {
+        delete section;
+    }
+}
+
+void Option::addSection(const std::string& key, Section* section)
+{
+    sections[key] = section;
+    owned.insert(section);
+}
+
+void Option::parse(xercesc::SAX2XMLReader* reader)
+{
+    for (auto& [key, section] : sections) {
+        if (!section->getUrl().empty()) {
+            section->parse(reader);
+        }
+    }
+}
+
+std::string Option::getType() { return "Option"; }
+
+bool Option::isAllProhibited() { return allProhibited; }
+
+bool Option::allFailed()
+{
+    for (auto& [key, section] : sections) {
+        if (section->passed() || section->getStatus() == 5) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Option::groupPartiallyPassed(const std::string& group) const
+{
+    auto found = groupPartially.find(group);
+    return found != groupPartially.end() && found->second;
+}
+
+void Option::setLogicalType(const std::string& type)
+{
+    if (type == "ONLY") {
+        logicType = 2;
+    }
+}
+
+bool Option::test()
+{
+    bool result = sections.empty();
+    bool allSkipped = true;
+    int warnings = 0;
+    for (auto& [key, section] : sections) {
+        if (!section->isPrimary()) {
+            continue;  // evaluated from its group's primary
+        }
+        if (!section->getGroup().empty()) {
+            testGroup(key, *section, warnings, allSkipped);
+            continue;
+        }
+        announce(announcedName(key));
+        bool passed = section->test();
+        if (section->getStatus() == 5) {
+            ++warnings;
+        }
+        result = passed;
+        if (passed && logicType == 1) {
+            break;  // the first passing ungrouped primary decides
+        }
+    }
+    if (logicType == 2) {
+        countOnlyOneGroups(result);
+    }
+    if (!result) {
+        for (auto& [group, passed] : groupPassed) {
+            if (passed) {
+                primaryGroup = group;
+                result = logicType == 1;
+                break;
+            }
+        }
+    }
+    status = result ? 1 : (warnings > 0 ? 5 : 2);
+    if (allSkipped) {
+        status = 0;
+    }
+    passed_ = result;
+    return result;
+}
+
+void Option::testGroup(const std::string& key, Section& primarySection, int& warnings, bool& allSkipped)
+{
+    const std::string group = primarySection.getGroup();
+    const std::string where = " section '" + primarySection.getName() + "' for group '" + group + "'";
+    announce(announcedName(key));
+    countProgress();
+    trace("--Start primary" + where);
+    bool primaryPassed = primarySection.test();
+    groupPassed[group] = primaryPassed;
+    if (primarySection.getStatus() == 5) {
+        ++warnings;
+    }
+    if (primaryPassed && !primarySection.isCustomScan()) {
+        groupPartially[group] = true;
+    }
+    allProhibited = allProhibited && primarySection.isProhibited();
+    allSkipped = allSkipped && primarySection.isSkipped();
+    for (auto& [otherKey, secondary] : sections) {
+        if (secondary->isPrimary() || secondary->getGroup() != group) {
+            continue;
+        }
+        if (!primaryPassed || primarySection.isSkipped()) {
+            trace("\tSkipping evaluation of " + secondary->getName());
+            announce("");
+            countProgress();
+            continue;
+        }
+        announce(announcedName(otherKey));
+        countProgress();
+        trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() + "' for group '" +
+              group + "'");
+        bool counts = secondary->test() || secondary->getStatus() == 4;
+        groupPassed[group] = groupPassed[group] && counts;
+        if (secondary->getStatus() == 5) {
+            ++warnings;
+        }
+        if (counts && secondary->isCustomScan()) {
+            groupPartially[group] = true;
+        }
+    }
+    trace("--End primary" + where);
+}
+
+void Option::countOnlyOneGroups(bool& result)
+{
+    trace("Option " + getName() + " is an ONLY ONE option");
+    int count = 0;
+    for (auto& [group, passed] : groupPassed) {
+        if (passed) {
+            trace("group " + group + " fully passed");
+            ++count;
+        }
+    }
+    for (auto& [group, passed] : groupPartially) {
+        if (passed) {
+            trace("group " + group + " partially passed");
+            ++count;
+        }
+    }
+    if (count >= 2) {
+        trace("setting retval to false because count = " + std::to_string(count));
+        result = false;
+    }
+}

@@ -1,0 +1,252 @@
+#include <tvpolicy/policy/Section.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+
+#include <xercesc/framework/URLInputSource.hpp>
+#include <xercesc/util/XMLException.hpp>
+
+#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/policy/Policy.h>
+#include <tvpolicy/policy/Task.h>
+#include <tvpolicy/policy/TaskFactory.h>
+#include <tvpolicy/policy/TaskResponse.h>
+
+#include "policy/ParseGuard.h"
+#include "policy/ParseMessages.h"
+#include "policy/ProgressiveParse.h"
+#include "xml/XmlPlatform.h"
+#include "xml/XmlText.h"
+
+using namespace xercesc;
+using tvpolicy::policy::ParseGuard;
+
+namespace {
+
+bool isComposite(const std::string& element) { return element == "and" || element == "or" || element == "not"; }
+
+bool isWebUrl(const std::string& url)
+{
+    auto startsWith = [&](const char* prefix) {
+        std::string head = url.substr(0, std::char_traits<char>::length(prefix));
+        for (char& c : head) {
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        }
+        return head == prefix;
+    };
+    return startsWith("http://") || startsWith("https://");
+}
+
+}  // namespace
+
+Section::Section() = default;
+
+Section::Section(Policy* owner) : policy(owner) {}
+
+Section::Section(std::string source) : url(std::move(source)) {}
+
+Section::~Section()
+{
+    for (Task* task : tasks) {
+        delete task;
+    }
+    // Composites still open when a parse stopped were never placed: each is deleted on its own.
+    while (!taskStack.empty()) {
+        delete taskStack.top();
+        taskStack.pop();
+    }
+    for (TaskResponse* response : results) {
+        delete response;
+    }
+}
+
+void Section::setDocumentLocator(const Locator* locator)
+{
+    if (guard != nullptr) {
+        guard->setLocator(locator);
+    }
+}
+
+bool Section::refuse()
+{
+    SAXParseException refusal = guard->refusalError();
+    if (policy != nullptr) {
+        policy->fatalError(refusal);
+    } else {
+        fatalError(refusal);
+    }
+    return false;
+}
+
+void Section::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qname, const Attributes& attributes)
+{
+    if (guard != nullptr && !guard->enter(attributes)) {
+        refuse();
+        return;
+    }
+    bool fromQName = false;
+    std::string element = tvpolicy::xml::elementName(localname, qname, fromQName);
+    if (element == "help") {
+        inHelp = true;
+        return;
+    }
+    Task* task = TaskFactory::createTask(element + "Task");
+    if (task == nullptr) {
+        return;
+    }
+    for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
+        Task::Attribute attribute{tvpolicy::xml::elementName(attributes.getLocalName(i), attributes.getQName(i), fromQName),
+                                  tvpolicy::xml::utf8(attributes.getValue(i))};
+        task->setAttribute(&attribute);
+    }
+    if (isComposite(element)) {
+        taskStack.push(task);
+    } else if (!taskStack.empty()) {
+        taskStack.top()->addTerm(task);
+    } else {
+        addTask(task);
+    }
+}
+
+void Section::endElement(const XMLCh*, const XMLCh* localname, const XMLCh* qname)
+{
+    if (!tvpolicy::policy::leaveElement(guard)) {
+        return;
+    }
+    bool fromQName = false;
+    std::string element = tvpolicy::xml::elementName(localname, qname, fromQName);
+    if (element == "help") {
+        inHelp = false;
+    } else if (isComposite(element) && !taskStack.empty()) {
+        Task* done = taskStack.top();
+        taskStack.pop();
+        if (!taskStack.empty()) {
+            taskStack.top()->addTerm(done);
+        } else {
+            addTask(done);
+        }
+    } else if (element == "section" && policy != nullptr && policy->reader != nullptr) {
+        policy->reader->setContentHandler(policy);
+    }
+}
+
+void Section::characters(const XMLCh* chars, const XMLSize_t length)
+{
+    if (inHelp) {
+        help += tvpolicy::xml::utf8(chars, length);
+    }
+}
+
+void Section::warning(const SAXParseException& exception) { tvpolicy::policy::printParseNotice("warn", exception); }
+
+void Section::error(const SAXParseException& exception) { tvpolicy::policy::printParseNotice("err", exception); }
+
+void Section::fatalError(const SAXParseException& exception)
+{
+    // A section that cannot be read stops the agent. (The message box that would say
+    // "Error reading section." shows nothing on this platform.)
+    std::printf("fatal error, line %d\n", static_cast<int>(exception.getLineNumber()));
+    std::printf("column: %d\n", static_cast<int>(exception.getColumnNumber()));
+    std::cout.flush();
+    std::exit(1);
+}
+
+bool Section::isAllProhibited() { return false; }
+
+std::string Section::getType() { return "Section"; }
+
+void Section::addTask(Task* task)
+{
+    tasks.push_back(task);
+    passed_ = false;
+}
+
+bool Section::isPrimary() const { return primary || Policy::getVersion() < 2; }
+
+std::string Section::getHelp() const { return help.find("$KVI$") != std::string::npos ? std::string() : help; }
+
+void Section::trace(const std::string& message)
+{
+    if (policy != nullptr) {
+        policy->debug(message);
+    } else {
+        tvi::tslog(std::clog) << message << std::endl;
+    }
+}
+
+bool Section::test()
+{
+    passed_ = true;
+    trace("\tTesting " + name);
+    bool skipRequested = false;
+    for (Task* task : tasks) {
+        TaskResponse* response = task->perform();
+        if (response == nullptr) {
+            response = new TaskResponse;  // a kind that answers nothing has not proved anything
+        }
+        skipRequested = skipRequested || response->skip;
+        if (!response->passed) {
+            passed_ = false;
+        }
+        trace("\t\t" + task->getType() + (response->passed ? " Passed " : " Failed"));
+        trace("\t\t\tInfo: " + response->message);
+        results.push_back(response);
+    }
+    status = passed_ ? 1 : (warning_ ? 5 : 2);
+    if (skipRequested) {
+        status = 0;
+        trace("\t " + name + " results skipped due to skip attribute.");
+        passed_ = false;
+    } else if (prohibit && !passed_) {
+        status = 4;
+        trace("\t " + name + " failed, but prohibited, so we need to skip this.");
+    } else if (prohibit) {
+        status = warning_ ? 5 : 3;
+        trace("\t " + name + " passed, but forced to failure due to prohibit=true.");
+        passed_ = false;
+    }
+    trace("\t" + name + " status " + std::to_string(status));
+    trace("\t" + name + (passed_ ? " passed" : " failed"));
+    return passed_;
+}
+
+void Section::parse(SAX2XMLReader* reader)
+{
+    if (reader == nullptr) {
+        return;
+    }
+    tvpolicy::xml::ensurePlatform();
+    tvpolicy::xml::harden(*reader);
+    ParseGuard bounds;
+    guard = &bounds;
+    reader->setContentHandler(this);
+    reader->setErrorHandler(this);
+    if (!isWebUrl(url)) {
+        tvi::tslog(std::cout) << "Section: only http and https addresses are read, not '" << url << "'" << std::endl;
+        fatalError(SAXParseException(nullptr, nullptr, nullptr, 0, 0));
+    }
+    try {
+        URLInputSource source(tvpolicy::xml::Utf16(url).get());
+        tvpolicy::policy::parseProgressively(*reader, source, [&] { return bounds.refused(); });
+    } catch (const XMLException& failure) {
+        tvi::tslog(std::cout) << "Section: cannot read '" << url << "': " << tvpolicy::xml::utf8(failure.getMessage()) << std::endl;
+        fatalError(SAXParseException(failure.getMessage(), nullptr, nullptr, 0, 0));
+    }
+    guard = nullptr;
+}
+
+void Section::announce(const std::string& sectionName)
+{
+    if (policy != nullptr) {
+        policy->announce(sectionName);
+    }
+}
+
+void Section::countProgress()
+{
+    if (policy != nullptr) {
+        ++policy->progress;
+    }
+}

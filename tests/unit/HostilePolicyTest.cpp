@@ -1,0 +1,143 @@
+#include <tvpolicy/policy/Policy.h>
+#include <tvpolicy/policy/Section.h>
+#include <tvpolicy/policy/Task.h>
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include "support/CaptureStream.h"
+#include "support/PolicyText.h"
+#include "support/TempDir.h"
+
+namespace {
+
+using testing_support::CaptureStream;
+using testing_support::parsePolicy;
+
+long peakKilobytes()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+std::string nested(const std::string& element, int depth, const std::string& inner)
+{
+    std::string open, close;
+    for (int i = 0; i < depth; ++i) {
+        open += "<" + element + ">";
+        close += "</" + element + ">";
+    }
+    return open + inner + close;
+}
+
+TEST(HostilePolicy, BillionLaughsEndsAsAFatalErrorInAFewMegabytes)
+{
+    std::string xml = "<?xml version=\"1.0\"?>\n<!DOCTYPE policy [\n<!ENTITY a0 \"lol\">\n";
+    for (int i = 1; i <= 10; ++i) {
+        xml += "<!ENTITY a" + std::to_string(i) + " \"";
+        for (int j = 0; j < 10; ++j) {
+            xml += "&a" + std::to_string(i - 1) + ";";
+        }
+        xml += "\">\n";
+    }
+    xml += "]>\n<policy name=\"p\">\n<note>&a10;</note>\n</policy>";
+    long before = peakKilobytes();
+    auto parsed = parsePolicy(xml);
+    EXPECT_TRUE(parsed.policy->getFatalParseError());
+    EXPECT_EQ(parsed.policy->getFatalErrorMsg().rfind("A configuration error has occurred at line: ", 0), 0u);
+    EXPECT_LT(peakKilobytes() - before, 64 * 1024);
+}
+
+TEST(HostilePolicy, ExternalEntitiesAndDtdsAreNeverRead)
+{
+    testing_support::TempDir dir;
+    auto secret = dir.write("secret.txt", "LEAKED");
+    auto dtd = dir.write("policy.dtd", "<!ATTLIST policy name CDATA \"FROM-DTD\">\n<!ENTITY inner \"FROM-DTD\">");
+    std::string xml = "<?xml version=\"1.0\"?>\n<!DOCTYPE policy SYSTEM \"file://" + dtd.string() +
+                      "\" [\n<!ENTITY secret SYSTEM \"file://" + secret.string() +
+                      "\">\n<!ENTITY remote SYSTEM \"http://127.0.0.1:9/x\">\n]>\n"
+                      "<policy><a>&secret;</a><b>&remote;</b><c>x</c></policy>";
+    auto parsed = parsePolicy(xml);
+    ASSERT_FALSE(parsed.policy->getFatalParseError()) << parsed.out;
+    EXPECT_EQ(parsed.policy->getName(), "");  // the external DTD's default was not applied
+    EXPECT_EQ(parsed.policy->getExtraInformation(), "c=x");
+    EXPECT_EQ(parsed.log.find("LEAKED"), std::string::npos);
+}
+
+struct DeepCase {
+    std::string title;
+    std::string element;
+    int depth;
+    std::string inner;
+};
+
+class DeepNestingTest : public testing::TestWithParam<DeepCase> {};
+
+// 200,000 levels: refused through the fatal-error path; what was built before stays and is
+// destroyed cleanly, including the open, never-placed composites.
+TEST_P(DeepNestingTest, IsRefusedWithTheConfigurationError)
+{
+    const DeepCase& c = GetParam();
+    std::string xml = "<policy name=\"deep\">\n<section name=\"ok\" primary=\"true\"><true/></section>\n"
+                      "<section name=\"deep\" primary=\"true\">\n" +
+                      nested(c.element, c.depth, c.inner) + "\n</section></policy>";
+    auto parsed = parsePolicy(xml);
+    ASSERT_TRUE(parsed.policy->getFatalParseError());
+    EXPECT_EQ(parsed.policy->getFatalErrorMsg(), "A configuration error has occurred at line: 4");
+    EXPECT_EQ(parsed.out, "Error,  elements are nested deeper than 1000 levels\n");
+    ASSERT_EQ(parsed.policy->getSections().size(), 2u);
+    CaptureStream log(std::clog);
+    EXPECT_TRUE(parsed.policy->run());  // the cut-off section holds no task yet, so both pass
+}
+
+INSTANTIATE_TEST_SUITE_P(Trees, DeepNestingTest, testing::Values(
+    DeepCase{"And", "and", 200000, "<true/>"},
+    DeepCase{"Or", "or", 200000, "<true/>"},
+    DeepCase{"Not", "not", 200000, "<false/>"},
+    DeepCase{"UnknownElements", "x", 200000, ""}),
+    [](const testing::TestParamInfo<DeepCase>& info) { return info.param.title; });
+
+TEST(HostilePolicy, NestingWithinTheBoundIsEvaluated)
+{
+    // policy > section > 997 alternating not/and/or levels > true: 1000 elements deep.
+    std::string open, close;
+    const char* kinds[] = {"not", "and", "or"};
+    for (int i = 0; i < 997; ++i) {
+        open += std::string("<") + kinds[i % 3] + ">";
+        close = std::string("</") + kinds[i % 3] + ">" + close;
+    }
+    auto parsed = parsePolicy("<policy><section name=\"s\" primary=\"true\">" + open + "<true/>" + close + "</section></policy>");
+    ASSERT_FALSE(parsed.policy->getFatalParseError()) << parsed.out;
+    CaptureStream log(std::clog);
+    // 333 nots around a passing check, with and/or in between: an odd number of inversions fails.
+    EXPECT_FALSE(parsed.policy->run());
+}
+
+TEST(HostilePolicy, TooManyAttributesAreRefused)
+{
+    std::string attributes;
+    for (int i = 0; i < 300; ++i) {
+        attributes += " a" + std::to_string(i) + "=\"v\"";
+    }
+    auto parsed = parsePolicy("<policy>\n<section name=\"s\">\n<Validate" + attributes + "/></section></policy>");
+    ASSERT_TRUE(parsed.policy->getFatalParseError());
+    EXPECT_EQ(parsed.policy->getFatalErrorMsg(), "A configuration error has occurred at line: 3");
+    EXPECT_EQ(parsed.out, "Error,  an element has more than 256 attributes\n");
+}
+
+TEST(HostilePolicy, OddBytesAreAParseErrorNotACrash)
+{
+    for (std::string body : {std::string("<policy>\n<a>\xff\xfe\x00\x01</a></policy>", 30), std::string("<policy>\n\x00\x00</policy>", 21),
+                             std::string("<policy name=\"\xc3\x28\">\n</policy>")}) {
+        auto parsed = parsePolicy(body);
+        EXPECT_TRUE(parsed.policy->getFatalParseError());
+    }
+}
+
+}  // namespace
