@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iostream>
 #include <sstream>
 #include <vector>
 
@@ -13,6 +14,10 @@ const char* text(bool value) { return value ? "true" : "false"; }
 
 // The value of a word: its leading number as atol reads it (white space, a sign, digits), or 0.
 long long wordValue(const std::string& word) { return std::strtoll(word.c_str(), nullptr, 10); }
+
+// The log is written through debug(); when its stream discards everything (no buffer, or
+// failed), the lines are not even put together.
+bool tracing() { return std::clog.good() && std::clog.rdbuf() != nullptr; }
 
 void trace(const std::string& message) { debug(message, "DelimVersion"); }
 
@@ -134,7 +139,9 @@ bool DelimVersion::compare(std::string& requested, std::string& delim, std::stri
                 } else {
                     retval = true;
                 }
-                trace(std::string("done = ") + text(done) + " retval = " + text(retval));
+                if (tracing()) {
+                    trace(std::string("done = ") + text(done) + " retval = " + text(retval));
+                }
                 break;
             case gte:
                 retval = s >= r;
@@ -165,7 +172,9 @@ bool DelimVersion::compare(std::string& requested, std::string& delim, std::stri
             }
         }
     }
-    trace("DelimVersion.. Requested: " + requested + " System: " + system + " Delim: " + delim);
-    trace(std::string("DelimVersion.. Returning: ") + text(retval));
+    if (tracing()) {
+        trace("DelimVersion.. Requested: " + requested + " System: " + system + " Delim: " + delim);
+        trace(std::string("DelimVersion.. Returning: ") + text(retval));
+    }
     return retval;
 }

@@ -7,6 +7,8 @@
 #include <tvpolicy/checks/File.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
+#include "checks/TaskAttributes.h"
+
 bool FileTask::whatever = TaskFactory::addTask("FileTask", &FileTask::create);
 
 Task* FileTask::create() { return new FileTask; }
@@ -15,23 +17,16 @@ std::string FileTask::getType() { return "FileTask"; }
 
 void FileTask::setAttribute(Attribute* attribute)
 {
-    const std::string& name = attribute->first;
-    const std::string& value = attribute->second;
-    if (name == "fileName") {
-        fileName_ = value;
-    } else if (name == "execute") {
-        execute_ = value == "true";
-    } else if (name == "args") {
-        args_ = value;
-    } else if (name == "startPath") {
-        startPath_ = value;
-    } else if (name == "lastModified") {
-        lastModified_ = value;
-    } else if (name == "version") {
-        version_ = value;
-    } else if (name == "wait") {
-        wait_ = value;
+    if (attribute->first == "execute") {
+        execute_ = attribute->second == "true";
+        return;
     }
+    tvpolicy::checks::assignAttribute(*attribute, {{"fileName", &fileName_},
+                                                   {"args", &args_},
+                                                   {"startPath", &startPath_},
+                                                   {"lastModified", &lastModified_},
+                                                   {"version", &version_},
+                                                   {"wait", &wait_}});
 }
 
 TaskResponse* FileTask::perform()

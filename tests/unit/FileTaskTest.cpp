@@ -1,6 +1,5 @@
 #include <tvpolicy/checks/File.h>
 #include <tvpolicy/checks/FileTask.h>
-#include <tvpolicy/policy/TaskFactory.h>
 
 #include <gtest/gtest.h>
 
@@ -10,6 +9,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "support/PerformTask.h"
 #include "support/TempDir.h"
 
 namespace {
@@ -42,18 +42,10 @@ struct Outcome {
 
 Outcome runFileTask(const std::vector<Task::Attribute>& attributes)
 {
-    std::unique_ptr<Task> task(TaskFactory::createTask("FileTask"));
-    EXPECT_NE(task, nullptr);
-    for (Task::Attribute attribute : attributes) {
-        task->setAttribute(&attribute);
-    }
-    std::unique_ptr<TaskResponse> response(task->perform());
-    EXPECT_EQ(response->code, 0);
-    EXPECT_EQ(response->detail, "");
-    EXPECT_FALSE(response->skip);
-    EXPECT_EQ(task->passed(), response->passed);
-    EXPECT_EQ(task->getType(), "FileTask");
-    return {response->passed, response->message};
+    testing_support::TaskRun run = testing_support::performTask("FileTask", attributes);
+    EXPECT_EQ(run.response->code, 0);
+    EXPECT_EQ(run.response->detail, "");
+    return {run.response->passed, run.response->message};
 }
 
 struct FileCase {

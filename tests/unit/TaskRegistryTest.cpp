@@ -12,7 +12,8 @@ namespace {
 // Every kind the library registers, in the order the registry must hold them.
 const std::vector<std::string> registeredKinds = {
     "andTask", "falseTask", "notTask", "orTask", "trueTask", "ValidateTask",
-    "FileTask", "ProcessExistsTask",
+    "McAfeeVirusScanVersionTask", "AvastVersionTask", "VersionFromScriptTask", "VersionFromReceiptTask", "FileTask",
+    "ProcessExistsTask",
 };
 
 class RecordingTask : public Task {

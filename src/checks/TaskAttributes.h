@@ -1,0 +1,24 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+#include <tvpolicy/policy/Task.h>
+
+namespace tvpolicy::checks {
+
+/// Stores an attribute's value in the text field its name selects (names compared exactly);
+/// an unknown name changes nothing.
+inline void assignAttribute(const Task::Attribute& attribute,
+                            std::initializer_list<std::pair<const char*, std::string*>> fields)
+{
+    for (const auto& [name, field] : fields) {
+        if (attribute.first == name) {
+            *field = attribute.second;
+            return;
+        }
+    }
+}
+
+}  // namespace tvpolicy::checks
