@@ -8,6 +8,7 @@
 #include <xercesc/framework/URLInputSource.hpp>
 #include <xercesc/util/XMLException.hpp>
 
+#include <tvpolicy/host/Machine.h>
 #include <tvpolicy/host/Timestamp.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Task.h>
@@ -145,10 +146,10 @@ void Section::error(const SAXParseException& exception) { tvpolicy::policy::prin
 
 void Section::fatalError(const SAXParseException& exception)
 {
-    // A section that cannot be read stops the agent. (The message box that would say
-    // "Error reading section." shows nothing on this platform.)
+    // A section that cannot be read stops the agent.
     std::printf("fatal error, line %d\n", static_cast<int>(exception.getLineNumber()));
     std::printf("column: %d\n", static_cast<int>(exception.getColumnNumber()));
+    Machine::showMessage("", "Error reading section.  Please try again later.  If the problem persists, notify the helpdesk.", "");
     std::cout.flush();
     std::exit(1);
 }

@@ -6,6 +6,8 @@
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include "xml/LimitedNetAccessor.h"
+
 namespace tvpolicy::xml {
 
 using namespace xercesc;
@@ -13,7 +15,12 @@ using namespace xercesc;
 void ensurePlatform()
 {
     static std::once_flag once;
-    std::call_once(once, [] { XMLPlatformUtils::Initialize(); });
+    std::call_once(once, [] {
+        XMLPlatformUtils::Initialize();
+        // URL input sources fetch through our accessor, with its limits, never the built-in one.
+        delete XMLPlatformUtils::fgNetAccessor;
+        XMLPlatformUtils::fgNetAccessor = new LimitedNetAccessor;
+    });
 }
 
 namespace {

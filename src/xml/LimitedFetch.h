@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace tvpolicy::xml {
+
+/// Bounds of one fetch of a document from the network.
+struct FetchLimits {
+    long connectTimeoutMs = 10000;
+    long totalTimeoutMs = 30000;
+    std::size_t maxBytes = 16u << 20;
+};
+
+/// The limits every document fetched for the XML reader gets (policy includes). Set them
+/// before any parse starts; they are not locked.
+FetchLimits& documentFetchLimits();
+
+struct FetchResult {
+    bool ok = false;
+    long status = 0;   // the HTTP status, 0 when no response came
+    std::string body;  // only when ok
+    std::string error; // why not, when not ok
+};
+
+/// GETs an http or https address within `limits`. Redirects are not followed; any status
+/// other than 2xx, a body over the size cap or a time-out is a failure, and its body is
+/// dropped, never handed on.
+FetchResult fetchDocument(const std::string& url, const FetchLimits& limits);
+
+}  // namespace tvpolicy::xml
