@@ -1,4 +1,5 @@
 // The example policies of file and version checks, run against this machine.
+#include <tvpolicy/checks/File.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 
@@ -40,6 +41,17 @@ TEST(CheckExamples, FileAndVersionChecksPassOnThisMachine)
         EXPECT_EQ(section->getStatus(), 1u) << section->getName();
     }
     EXPECT_EQ(names, (std::vector<std::string>{"License texts installed", "Kernel 3.2 or later", "Legacy agent removed"}));
+}
+
+// Without a start path the whole tree below "/" is searched, up to the first match.
+TEST(CheckExamples, FileWithoutStartPathSearchesFromTheRoot)
+{
+    File file("os-release", false, "", "");
+    ASSERT_TRUE(file.exists());
+    ASSERT_EQ(file.getFileList().size(), 1u);
+    const std::string found = file.getFileList().front();
+    EXPECT_EQ(found.rfind("/", 0), 0u) << found;
+    EXPECT_EQ(found.substr(found.size() - std::string("/os-release").size()), "/os-release") << found;
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ public:
 
 private:
     std::string fileName_;
-    bool flag_ = true;  // kept with the task's shape; nothing reads it
+    [[maybe_unused]] bool flag_ = true;  // kept with the task's shape; nothing reads it
     bool execute_ = false;
     std::string args_;
     std::string startPath_;
