@@ -3,25 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include "support/CaptureStream.h"
+
 namespace {
 
 using tvpolicy::FakeHost;
 using tvpolicy::ScopedHost;
-
-// The text after the UTC prefix of each line.
-std::vector<std::string> messagesOf(const std::string& log)
-{
-    std::vector<std::string> messages;
-    std::string::size_type start = 0;
-    while (start < log.size()) {
-        std::string::size_type end = log.find('\n', start);
-        std::string line = log.substr(start, end - start);
-        std::string::size_type marker = line.find(" UTC :: ");
-        messages.push_back(marker == std::string::npos ? line : line.substr(marker + 8));
-        start = end == std::string::npos ? log.size() : end + 1;
-    }
-    return messages;
-}
 
 struct VersionCase {
     std::string name;
@@ -38,10 +25,9 @@ TEST_P(MachineVersionTest, StripsEveryNewlineAndLogsTheVersion)
     host.productName = GetParam().name;
     host.productVersion = GetParam().version;
     ScopedHost scope(host);
-    testing::internal::CaptureStdout();
+    testing_support::CaptureStream out(std::cout);
     EXPECT_EQ(Machine::getOSVersion(), GetParam().osVersion);
-    EXPECT_EQ(messagesOf(testing::internal::GetCapturedStdout()),
-              std::vector<std::string>{"Version = " + GetParam().osVersion});
+    EXPECT_EQ(testing_support::logMessages(out.text()), std::vector<std::string>{"Version = " + GetParam().osVersion});
     EXPECT_EQ(Machine::getOSString(), GetParam().osString);
 }
 

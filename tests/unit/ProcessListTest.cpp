@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/CaptureStream.h"
+
 #include <memory>
 
 namespace {
@@ -88,15 +90,10 @@ TEST(ProcessList, DumpLogsShortNamesAndReadableExecutables)
     FakeHost host;
     host.processes = {{1, "systemd", std::nullopt}, {9, "tvpolicy-agent-", std::string("/opt/tv/tvpolicy-agent-daemon")}};
     ScopedHost scope(host);
-    testing::internal::CaptureStderr();
+    testing_support::CaptureStream log(std::clog);
     ProcessList().dump();
-    std::string log = testing::internal::GetCapturedStderr();
-    std::vector<std::string> messages;
-    for (std::string::size_type start = 0, end; (end = log.find('\n', start)) != std::string::npos; start = end + 1) {
-        std::string line = log.substr(start, end - start);
-        ASSERT_NE(line.find(" UTC :: "), std::string::npos) << line;
-        messages.push_back(line.substr(line.find(" UTC :: ") + 8));
-    }
+    std::vector<std::string> messages = testing_support::logMessages(log.text());
+    EXPECT_NE(log.text().find(" UTC :: old: systemd\n"), std::string::npos) << "timestamped lines";
     EXPECT_EQ(messages, (std::vector<std::string>{"old: systemd", "old: tvpolicy-agent-", "new: tvpolicy-agent-daemon"}));
 }
 

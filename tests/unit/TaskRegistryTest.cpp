@@ -11,9 +11,9 @@ namespace {
 
 // Every kind the library registers, in the order the registry must hold them.
 const std::vector<std::string> registeredKinds = {
-    "andTask", "falseTask", "notTask", "orTask", "trueTask", "ValidateTask",
+    "andTask", "falseTask", "notTask", "orTask", "trueTask", "ValidateTask", "MacOSXVersionTask",
     "McAfeeVirusScanVersionTask", "AvastVersionTask", "VersionFromScriptTask", "VersionFromReceiptTask", "FileTask",
-    "ProcessExistsTask",
+    "ProcessExistsTask", "FlushDNSTask",
 };
 
 class RecordingTask : public Task {

@@ -1,12 +1,15 @@
 #include "host/probe/linux/LinuxHostProbe.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <utility>
 
 #include <dirent.h>
+#include <spawn.h>
+#include <sys/wait.h>
 #include <fcntl.h>
 #include <sys/utsname.h>
 #include <unistd.h>
@@ -14,16 +17,14 @@
 #include "host/parse/OsRelease.h"
 #include "host/parse/ProcText.h"
 
+extern char** environ;
+
 namespace tvpolicy {
 
 namespace {
 
 struct DirCloser {
     void operator()(DIR* dir) const { ::closedir(dir); }
-};
-
-struct PipeCloser {
-    void operator()(std::FILE* stream) const { ::pclose(stream); }
 };
 
 // Reads at most `limit` bytes of the file at `path` (relative to `dirFd`) into `text`. False
@@ -186,11 +187,27 @@ std::string LinuxHostProbe::dnsFlushCommand() const
 
 int LinuxHostProbe::runShellCommand(const std::string& command)
 {
-    std::unique_ptr<std::FILE, PipeCloser> pipe(::popen(command.c_str(), "r"));
-    if (!pipe) {
+    // Like a read pipe that is closed at once, but the command's output goes to /dev/null, so
+    // a tool that prints before it acts is not killed by a broken pipe half-way.
+    posix_spawn_file_actions_t actions;
+    if (::posix_spawn_file_actions_init(&actions) != 0) {
         return 0;
     }
-    return ::pclose(pipe.release());
+    ::posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    const char* argv[] = {"sh", "-c", command.c_str(), nullptr};
+    pid_t pid = -1;
+    int error = ::posix_spawn(&pid, "/bin/sh", &actions, nullptr, const_cast<char* const*>(argv), environ);
+    ::posix_spawn_file_actions_destroy(&actions);
+    if (error != 0) {
+        return 0;
+    }
+    int status = 0;
+    while (::waitpid(pid, &status, 0) < 0) {
+        if (errno != EINTR) {
+            return 0;
+        }
+    }
+    return status;
 }
 
 void LinuxHostProbe::openURL(const std::string& url)
