@@ -54,7 +54,10 @@ INSTANTIATE_TEST_SUITE_P(Examples, RunExampleTest, testing::Values(
                  "[4/4] Remote shell server"}},
     ExampleCase{"options.xml", 0, "Policy \"Antivirus choice\": PASS (4 passed, 1 failed, 0 warning, 1 skipped of 6 sections)\n",
                 {"[1/6] Vendor antivirus", "[2/6] (section passed over)", "[3/6] Built-in protection",
-                 "[4/6] Built-in protection enabled", "[5/6] Agent", "[6/6] Agent configuration"}}));
+                 "[4/6] Built-in protection enabled", "[5/6] Agent", "[6/6] Agent configuration"}},
+    ExampleCase{"file-and-version-checks.xml", 0,
+                "Policy \"File and version checks\": PASS (3 passed, 0 failed, 0 warning, 0 skipped of 3 sections)\n",
+                {"[1/3] License texts installed", "[2/3] Kernel 3.2 or later", "[3/3] Legacy agent removed"}}));
 
 TEST(RunCommand, FailedSectionsShowHelpAndInstructions)
 {
