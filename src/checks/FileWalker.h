@@ -16,7 +16,9 @@ namespace tvpolicy::fs {
 ///  - an error inside a descent (a directory that cannot be opened or read, or vanishes) ends
 ///    that descent only; an error on the starting directory itself is thrown as
 ///    std::filesystem::filesystem_error;
-///  - memory grows with the depth of the tree (one open directory per level), not its size.
+///  - memory grows with the depth of the tree (one open directory per level), not its size;
+///    a tree deeper than the process may hold open descriptors ends its descent there, as an
+///    unreadable directory would.
 class FileWalker {
 public:
     /// Told of every match; returns true to end the walk.

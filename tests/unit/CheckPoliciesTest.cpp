@@ -126,15 +126,4 @@ TEST_F(CheckPolicies, EveryKindRunsFromItsElement)
     }
 }
 
-TEST_F(CheckPolicies, APassingPolicyOfChecks)
-{
-    bool result = false;
-    auto outcomes = run(section("all", "<and><File fileName=\"400.vps\" startPath=\"@/Applications\"/>"
-                                       "<VersionFromScript script=\"printf 10.6.8\" required=\"10.6\" operation=\"gt\" delim=\".\"/>"
-                                       "<McAfeeVirusScanVersion required=\"5000\" operation=\"lt\"/></and>"),
-                        result);
-    EXPECT_TRUE(result);
-    EXPECT_EQ(outcomes["all"].status, 1u);
-}
-
 }  // namespace

@@ -151,16 +151,6 @@ TEST(File, RecordsWhatItFinds)
     EXPECT_EQ(file.getFileList().size(), 3u);
 }
 
-TEST(File, FixedFacts)
-{
-    File file("x", false, "", "");
-    EXPECT_EQ(file.getVersion(), "0.0.0.0");
-    EXPECT_FALSE(file.isReadOnly());
-    EXPECT_FALSE(file.setWaitOnExecute("TRUE"));
-    EXPECT_FALSE(file.setWaitOnExecute(""));
-    EXPECT_TRUE(file.setWaitOnExecute("true"));
-}
-
 TEST(File, LastModTimeTakesTheBackslashedPath)
 {
     TempDir tmp;

@@ -210,11 +210,6 @@ TEST(FindFile, DirectoriesRemovedDuringTheWalkEndOnlyTheirDescent)
     EXPECT_TRUE(findAll(tmp.path(), "target").empty());
 }
 
-TEST(FindFile, FixedDisksAreTheRootOnly)
-{
-    EXPECT_EQ(fixedDisks(), std::list<std::string>{"/"});
-}
-
 struct TextCase {
     std::string content;
     std::string text;
