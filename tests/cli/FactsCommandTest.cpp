@@ -49,14 +49,4 @@ TEST(FactsCommand, PlainListingOneFactPerLine)
     EXPECT_GT(std::stoi(result.out.substr(expected.size())), 1);
 }
 
-TEST(RunExample, OsAndProcessesPassesOnThisMachine)
-{
-    auto result = runCli({"run", std::string(TVPOLICY_SOURCE_DIR) + "/examples/os-and-processes.xml"});
-    EXPECT_EQ(result.exitCode, 0) << result.out << result.err;
-    EXPECT_NE(result.out.find("Policy \"OS and processes\": PASS (4 passed, 0 failed, 0 warning, 0 skipped of 4 sections)\n"),
-              std::string::npos)
-        << result.out;
-    EXPECT_NE(result.out.find("    ProcessExistsTask: passed - Process Running\n"), std::string::npos) << result.out;
-}
-
 }  // namespace

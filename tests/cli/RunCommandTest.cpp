@@ -57,7 +57,9 @@ INSTANTIATE_TEST_SUITE_P(Examples, RunExampleTest, testing::Values(
                  "[4/6] Built-in protection enabled", "[5/6] Agent", "[6/6] Agent configuration"}},
     ExampleCase{"file-and-version-checks.xml", 0,
                 "Policy \"File and version checks\": PASS (3 passed, 0 failed, 0 warning, 0 skipped of 3 sections)\n",
-                {"[1/3] License texts installed", "[2/3] Kernel 3.2 or later", "[3/3] Legacy agent removed"}}));
+                {"[1/3] License texts installed", "[2/3] Kernel 3.2 or later", "[3/3] Legacy agent removed"}},
+    ExampleCase{"os-and-processes.xml", 0, "Policy \"OS and processes\": PASS (4 passed, 0 failed, 0 warning, 0 skipped of 4 sections)\n",
+                {"[1/4] Debian 12 or later", "[2/4] Newer than Debian 11", "[3/4] Agent running", "[4/4] No telnet server"}}));
 
 TEST(RunCommand, FailedSectionsShowHelpAndInstructions)
 {
