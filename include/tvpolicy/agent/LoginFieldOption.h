@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include <tvpolicy/export.h>
+
+namespace com::torvane {
+
+/// One choice of a SELECT login field: the text shown (name) and the value sent (value).
+class TVPOLICY_API LoginFieldOption {
+public:
+    LoginFieldOption() = default;
+    LoginFieldOption(std::string name, std::string value) : name(std::move(name)), value(std::move(value)) {}
+
+    std::string name;
+    std::string value;
+};
+
+}  // namespace com::torvane

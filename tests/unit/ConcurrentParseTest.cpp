@@ -1,0 +1,91 @@
+// Several threads reading agent documents at once, the first of them initialising the XML
+// platform: every thread must get exactly what a lone reader gets.
+#include <tvpolicy/agent/AgentConfigXML.h>
+#include <tvpolicy/agent/AgentSchema.h>
+#include <tvpolicy/agent/AgentStatusXML.h>
+#include <tvpolicy/agent/LoginField.h>
+#include <tvpolicy/agent/WifiConfigurationProfile.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <iostream>
+#include <thread>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+const std::string ns = com::torvane::agentSchemaNamespace;
+
+bool readsOneOfEach(int round)
+{
+    std::string n = std::to_string(round);
+    auto config = com::torvane::AgentConfigXML::parse(
+        "<c xmlns='" + ns + "'><loginUrl>https://l/" + n + "</loginUrl><field name='u" + n +
+        "'><type>PASSWORD</type></field><rescanText>a</rescanText><rescanText>b</rescanText></c>");
+    auto status = com::torvane::AgentStatusXML::parse(
+        "<r xmlns='" + ns + "'><status>NEEDS_SCAN</status><scanName>s" + n +
+        "</scanName><profile><SSID>net" + n + "</SSID><securityType>WPA2</securityType></profile></r>");
+    auto field = com::torvane::LoginField::parse("<field name='f" + n + "'><type>SELECT</type></field>");
+    auto broken = com::torvane::AgentConfigXML::parse("<c xmlns='" + ns + "'><loginUrl>x</c>");
+    return config->loginUrl == "https://l/" + n && config->rescanText == "b" &&
+           config->getField("u" + n)->getType() == com::torvane::LoginField::PASSWORD &&
+           status->getStatus() == com::torvane::AgentStatusXML::NEEDS_SCAN && status->getScanName() == "s" + n &&
+           status->getWifiProfile()->getSSID() == "net" + n &&
+           status->getWifiProfile()->getSecurity() == com::torvane::WifiConfigurationProfile::WPA2 &&
+           field->getName() == "f" + n && field->getType() == com::torvane::LoginField::SELECT &&
+           broken->sjLoginTitle == "Network Credentials - Dissolvable Agent";
+}
+
+// Sends descriptor 2 to /dev/null while alive. The standard streams stay synchronised with
+// stdio, so threads may log at once; a captured stream buffer would not be safe.
+class QuietStderr {
+public:
+    QuietStderr() : saved_(::dup(2))
+    {
+        int null = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+        ::dup2(null, 2);
+        ::close(null);
+    }
+    ~QuietStderr()
+    {
+        std::clog.flush();
+        ::dup2(saved_, 2);
+        ::close(saved_);
+    }
+    QuietStderr(const QuietStderr&) = delete;
+    QuietStderr& operator=(const QuietStderr&) = delete;
+
+private:
+    int saved_;
+};
+
+TEST(ConcurrentParse, ThreadsReadDocumentsAtOnce)
+{
+    QuietStderr quiet;  // the broken documents' error lines
+    std::atomic<int> wrong{0};
+    std::atomic<bool> go{false};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 8; ++t) {
+        threads.emplace_back([&, t] {
+            while (!go) {
+                std::this_thread::yield();
+            }
+            for (int round = 0; round < 50; ++round) {
+                if (!readsOneOfEach(t * 1000 + round)) {
+                    ++wrong;
+                }
+            }
+        });
+    }
+    go = true;
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+}  // namespace

@@ -1,0 +1,125 @@
+// Documents from the network are hostile: every reader must survive them with its defaults and a
+// logged error, without reading local files, fetching anything, or running out of stack or time.
+#include <tvpolicy/agent/AgentConfigXML.h>
+#include <tvpolicy/agent/AgentSchema.h>
+#include <tvpolicy/agent/AgentStatusXML.h>
+#include <tvpolicy/agent/ParseErrorHandler.h>
+#include <tvpolicy/checks/Monitor.h>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <memory>
+
+#include "support/CaptureStream.h"
+#include "support/TempDir.h"
+#include "xml/DomReader.h"
+
+using testing_support::CaptureStream;
+
+namespace {
+
+const std::string ns = com::torvane::agentSchemaNamespace;
+
+std::string repeat(const std::string& part, unsigned count)
+{
+    std::string text;
+    for (unsigned i = 0; i < count; ++i) {
+        text += part;
+    }
+    return text;
+}
+
+std::string nested(unsigned depth, const std::string& inner = "x")
+{
+    return repeat("<e>", depth) + inner + repeat("</e>", depth);
+}
+
+std::string withAttributes(unsigned count)
+{
+    std::string text = "<e";
+    for (unsigned i = 0; i < count; ++i) {
+        text += " a" + std::to_string(i) + "='v'";
+    }
+    return text + "/>";
+}
+
+std::string billionLaughs()
+{
+    std::string text = "<?xml version='1.0'?><!DOCTYPE r [<!ENTITY l0 'lol'>";
+    for (int i = 1; i < 10; ++i) {
+        std::string previous = "&l" + std::to_string(i - 1) + ";";
+        text += "<!ENTITY l" + std::to_string(i) + " '" + repeat(previous, 10) + "'>";
+    }
+    return text + "]><r xmlns='" + ns + "'><junk>&l9;</junk></r>";
+}
+
+struct LimitCase {
+    std::string name;
+    std::string text;
+    bool kept;    // the parse gives a document with a root element
+    bool logged;  // an error is logged
+};
+
+class DocumentLimitTest : public testing::TestWithParam<LimitCase> {};
+
+TEST_P(DocumentLimitTest, RefusesOnlyWhatPassesTheLimits)
+{
+    const LimitCase& c = GetParam();
+    for (bool namespaces : {true, false}) {
+        ParseErrorHandler errors;
+        CaptureStream log(std::clog);
+        auto doc = tvpolicy::xml::parseDocument(c.text, {"limits", namespaces}, errors);
+        EXPECT_EQ(doc != nullptr && doc->getDocumentElement() != nullptr, c.kept) << c.name;
+        EXPECT_EQ(!log.text().empty(), c.logged) << c.name << ": " << log.text();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Limits, DocumentLimitTest, testing::Values(
+    LimitCase{"at the depth limit", nested(tvpolicy::xml::maxElementDepth), true, false},
+    LimitCase{"one deeper", nested(tvpolicy::xml::maxElementDepth + 1), false, true},
+    LimitCase{"100000 deep", nested(100000), false, true},
+    LimitCase{"deep through an entity",
+              "<!DOCTYPE e [<!ENTITY d '" + nested(300) + "'>]><e>&d;</e>", false, true},
+    LimitCase{"many empty siblings", "<e>" + repeat("<e/>", 5000) + "</e>", true, false},
+    LimitCase{"attributes at the limit", withAttributes(tvpolicy::xml::maxAttributesPerElement), true, false},
+    LimitCase{"one attribute more", withAttributes(tvpolicy::xml::maxAttributesPerElement + 1), false, true},
+    // Expansion stops at the limit; what was read before the fatal error stays.
+    LimitCase{"billion laughs", billionLaughs(), true, true}),
+    [](const auto& info) { std::string n = info.param.name; for (char& ch : n) if (!isalnum(ch)) ch = '_'; return n; });
+
+TEST(HostileDocument, ReadersFallBackToTheirDefaults)
+{
+    for (const std::string& text : {nested(100000), billionLaughs(), std::string("\xff\xfe\x00<r", 5),
+                                    std::string("<"), std::string(""), std::string("\x01\x02 not xml")}) {
+        CaptureStream log(std::clog);
+        auto config = com::torvane::AgentConfigXML::parse(text);
+        ASSERT_TRUE(config);
+        EXPECT_EQ(config->loginUrl, "");
+        EXPECT_EQ(config->sjLoginTitle, "Network Credentials - Dissolvable Agent");
+        EXPECT_TRUE(config->showIntro);
+        auto status = com::torvane::AgentStatusXML::parse(text);
+        ASSERT_TRUE(status);
+        EXPECT_EQ(status->getStatus(), com::torvane::AgentStatusXML::ERROR);
+        EXPECT_FALSE(log.text().empty()) << "no error logged";
+
+        CaptureStream errors(std::cerr);
+        std::unique_ptr<std::list<com::torvane::policy::Monitor*>> monitors(
+            com::torvane::policy::Monitor::parseMonitors(text));
+        EXPECT_TRUE(monitors->empty());
+    }
+}
+
+TEST(HostileDocument, NoExternalEntityOrDtdIsRead)
+{
+    testing_support::TempDir dir;
+    auto secret = dir.write("secret.txt", "TOP-SECRET");
+    std::string text = "<!DOCTYPE r SYSTEM 'http://127.0.0.1:9/never.dtd' [<!ENTITY s SYSTEM 'file://" +
+                       secret.string() + "'>]><r xmlns='" + ns + "'><loginUrl>[&s;]</loginUrl><uid>u1</uid></r>";
+    CaptureStream log(std::clog);
+    auto config = com::torvane::AgentConfigXML::parse(text);
+    EXPECT_EQ(config->loginUrl, "[]");
+    EXPECT_EQ(config->uid, "u1");
+}
+
+}  // namespace
