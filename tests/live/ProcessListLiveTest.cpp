@@ -7,10 +7,14 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <filesystem>
+#include <iostream>
+#include <thread>
 #include <memory>
 #include <unistd.h>
 
+#include "support/CaptureStream.h"
 #include "support/ChildProcess.h"
 #include "support/TempDir.h"
 
@@ -74,6 +78,35 @@ TEST_F(ProcessListLiveTest, ProcessExistsTaskSeesTheChild)
     std::unique_ptr<TaskResponse> gone(task->perform());
     EXPECT_FALSE(gone->passed);
     EXPECT_EQ(gone->message, "Process Not Running");
+}
+
+// Processes that start and end while the table is read are passed over; the scan goes on.
+TEST_F(ProcessListLiveTest, ProcessesEndingMidScanAreNoError)
+{
+    ChildProcess child({path.string(), "300"});
+    std::atomic<bool> done{false};
+    std::thread churn([&] {
+        while (!done) {
+            ChildProcess brief({"true"});
+        }
+    });
+    int found = 0;
+    for (int i = 0; i < 100; ++i) {
+        found += running(name) && !running("tvp-no-such-prc") ? 1 : 0;
+    }
+    done = true;
+    churn.join();
+    EXPECT_EQ(found, 100);
+}
+
+TEST_F(ProcessListLiveTest, DumpShowsBothNamesOfTheChild)
+{
+    ChildProcess child({path.string(), "300"});
+    testing_support::CaptureStream log(std::clog);
+    ProcessList().dump();
+    std::string text = log.text();
+    EXPECT_NE(text.find(" UTC :: old: " + name.substr(0, 15) + "\n"), std::string::npos);
+    EXPECT_NE(text.find(" UTC :: new: " + name + "\n"), std::string::npos);
 }
 
 TEST(ProcessListLive, FindsThisTestProgram)

@@ -99,14 +99,6 @@ TEST(Machine, IdentityTextsAreCutAt127Characters)
     EXPECT_EQ(Machine::getSystemSerialNumber(), "");
 }
 
-TEST(Machine, ArchitectureComesFromTheHost)
-{
-    FakeHost host;
-    host.architecture = "arm64";
-    ScopedHost scope(host);
-    EXPECT_EQ(Machine::getHWDescription(), "arm64");
-}
-
 TEST(Machine, LaunchBrowserHandsTheURLOverUntouched)
 {
     FakeHost host;

@@ -39,17 +39,13 @@ INSTANTIATE_TEST_SUITE_P(Crafted, OsReleaseAssignmentTest, testing::Values(
     AssignmentCase{"A=\"padded  \"", "A", true, "padded  "},
     AssignmentCase{"VERSION_ID=\"12\"\r\nNAME=x\r\n", "VERSION_ID", true, "12"},
     AssignmentCase{"A=\"unterminated\nB=1", "A", true, "unterminated"},
-    AssignmentCase{"A=\"unterminated\nB=1", "B", true, "1"},
-    AssignmentCase{"  \tVERSION_ID=3\n", "VERSION_ID", true, "3"},
     AssignmentCase{"A=\n", "A", true, ""},
     AssignmentCase{"A=1\nA=2\n", "A", true, "2"},
-    AssignmentCase{"A=x=y", "A", true, "x=y"},
     AssignmentCase{"# VERSION_ID=9\n", "VERSION_ID", false, ""},
     AssignmentCase{"VERSION_ID\n", "VERSION_ID", false, ""},
     AssignmentCase{"1A=x\n", "1A", false, ""},
     AssignmentCase{"A-B=x\n", "A-B", false, ""},
     AssignmentCase{"export A=x\n", "A", false, ""},
-    AssignmentCase{"=x\n", "", false, ""},
     AssignmentCase{"", "NAME", false, ""},
     AssignmentCase{std::string("A=a\0b", 5), "A", true, std::string("a\0b", 3)}));
 

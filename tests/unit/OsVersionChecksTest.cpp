@@ -57,27 +57,20 @@ INSTANTIATE_TEST_SUITE_P(Versions, MacOSXVersionTaskTest, testing::Values(
     VersionCase{"10.6.8", asks("lt", "10", "7", "0"), true},
     VersionCase{"10.7", asks("lt", "10", "7", "0"), false},
     VersionCase{"10.7\n", asks("lt", "10", "7", "0"), false},
-    VersionCase{"10.7", asks("eq", "10", "7", "0"), true},
     VersionCase{"10.7", asks("gte", "10", "7", "1"), false},
     // Three and four words are compared as they stand.
-    VersionCase{"10.6.8", asks("gt", "10", "6", "8"), false},
     VersionCase{"10.6.8.1", asks("gt", "10", "6", "8"), true},
     VersionCase{"10.6.8.1", asks("lt", "10", "6", "8"), false},
-    VersionCase{"10.6.8.1", asks("eq", "10", "6", "8"), true},
-    VersionCase{"10.6.8", asks("lte", "10", "6", "9"), true},
     // An unknown or missing operation means "gte".
     VersionCase{"10.6.8", asks("GT", "10", "6", "8"), true},
-    VersionCase{"10.6.8", asks("", "10", "6", "8"), true},
     VersionCase{"10.6.8", {{"major", "10"}, {"minor", "6"}, {"micro", "8"}}, true},
-    VersionCase{"10.5.9", {{"major", "10"}, {"minor", "6"}, {"micro", "0"}}, false},
     // Missing attributes ask for "..", which has no words: the check fails.
     VersionCase{"10.6.8", {}, false},
     VersionCase{"10.6.8", {{"Major", "10"}, {"minor", "6"}, {"micro", "8"}, {"operation", "lt"}}, false},
     VersionCase{"", asks("gte", "10", "4", "0"), false},
     // Debian's one-word VERSION_ID.
     VersionCase{"12", asks("gte", "11", "0", "0"), true},
-    VersionCase{"12", asks("gte", "13", "0", "0"), false},
-    VersionCase{"12", asks("lt", "12", "0", "0"), true}));
+    VersionCase{"12", asks("gte", "13", "0", "0"), false}));
 
 TEST(MacOSXVersionTask, LogsTheVersionItReads)
 {
@@ -107,14 +100,12 @@ TEST_P(DnsFlushGateTest, PicksTheToolOfTheVersion)
 INSTANTIATE_TEST_SUITE_P(Versions, DnsFlushGateTest, testing::Values(
     GateCase{"10.6.8", "/usr/bin/dscacheutil -flushcache"},
     GateCase{"10.5", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"10.5.0", "/usr/bin/dscacheutil -flushcache"},
     GateCase{"11.2.3", "/usr/bin/dscacheutil -flushcache"},
     GateCase{"10.4.11", "/usr/bin/lookupd -flushcache"},
     GateCase{"10.4", "/usr/bin/lookupd -flushcache"},
     GateCase{"10.3.9", ""},
     GateCase{"9.2", ""},
-    GateCase{"", ""},
-    GateCase{"...", ""}));
+    GateCase{"", ""}));
 
 class FlushDNSTaskTest : public testing::TestWithParam<GateCase> {};
 
@@ -144,20 +135,6 @@ INSTANTIATE_TEST_SUITE_P(Versions, FlushDNSTaskTest, testing::Values(
     GateCase{"10.4.11", "/usr/bin/lookupd -flushcache"},
     GateCase{"10.5", "/usr/bin/dscacheutil -flushcache"},
     GateCase{"10.3.9", ""}));
-
-TEST(FlushDNS, LinuxStyleHostFlushesWithItsResolver)
-{
-    FakeHost host;
-    host.productVersion = "12";
-    host.flushCommand = "resolvectl flush-caches";
-    ScopedHost scope(host);
-    FlushDNS task;
-    EXPECT_TRUE(performWith(task, {})->passed);
-    host.flushCommand.clear();
-    EXPECT_FALSE(performWith(task, {})->passed);
-    EXPECT_FALSE(task.passed());
-    EXPECT_EQ(host.commandsRun, std::vector<std::string>{"resolvectl flush-caches"});
-}
 
 TEST(FlushDNS, ToolCommandsGiveTheirStatus)
 {

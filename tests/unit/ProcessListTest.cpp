@@ -28,7 +28,6 @@ FakeHost describedHost()
         {4021, "bash", std::string("/usr/bin/bash")},
         {4100, "tvpolicy-agent-", std::string("/opt/tv/bin/tvpolicy-agent-daemon")},
         {4200, "renamed-worker", std::string("/usr/bin/python3.11")},
-        {4300, "editor", std::string("/home/u/My Apps/Text Editor")},
     };
     return host;
 }
@@ -53,17 +52,10 @@ INSTANTIATE_TEST_SUITE_P(Names, ProcessListNameTest, testing::Values(
     NameCase{"tvpolicy-agent-", true},                // the short name the kernel cut
     NameCase{"python3.11", true},                     // executable of a renamed process
     NameCase{"renamed-worker", true},                 // the name it gave itself
-    NameCase{"Text Editor", true},
     NameCase{"sshd", false},                          // executable unreadable: skipped entirely
-    NameCase{"systemd", false},
     NameCase{"Bash", false},                          // case-sensitive
     NameCase{"bas", false},                           // no prefixes
-    NameCase{"ash", false},                           // no suffixes
-    NameCase{"tvpolicy-agent", false},
     NameCase{"/usr/bin/bash", false},                 // a directory part never matches
-    NameCase{"bin/bash", false},
-    NameCase{"usr", false},
-    NameCase{"bash ", false},
     NameCase{"", false}));
 
 TEST(ProcessList, EmptyTableRunsNothing)
@@ -128,23 +120,7 @@ INSTANTIATE_TEST_SUITE_P(Attributes, ProcessExistsTaskTest, testing::Values(
     TaskCase{{{"procName", "bash"}}, true},
     TaskCase{{{"procName", "sshd"}}, false},
     TaskCase{{}, false},                                           // no name: nothing has an empty name
-    TaskCase{{{"procName", ""}}, false},
     TaskCase{{{"procname", "bash"}}, false},                       // attribute names are exact
-    TaskCase{{{"procName", "sshd"}, {"procName", "bash"}}, true},  // the last one wins
-    TaskCase{{{"procName", "bash"}, {"prohibit", "true"}}, true}));
-
-TEST(ProcessExistsTask, PassedFollowsTheLastPerform)
-{
-    FakeHost host = describedHost();
-    ScopedHost scope(host);
-    ProcessExistsTask task;
-    Task::Attribute name{"procName", "backupd"};
-    task.setAttribute(&name);
-    delete task.perform();
-    EXPECT_FALSE(task.passed());
-    host.processes.push_back({77, "backupd", std::string("/usr/sbin/backupd")});
-    delete task.perform();
-    EXPECT_TRUE(task.passed());
-}
+    TaskCase{{{"procName", "sshd"}, {"procName", "bash"}}, true}));  // the last one wins
 
 }  // namespace
