@@ -1,0 +1,107 @@
+#include <tvpolicy/host/Utilities.h>
+
+#include <gtest/gtest.h>
+
+#include "support/RunCli.h"
+#include "support/TempDir.h"
+
+using testing_support::runCli;
+
+namespace {
+
+std::vector<std::string> linesOf(std::string text)
+{
+    std::vector<std::string> lines;
+    std::string newline = "\n";
+    split(text, newline, lines);
+    return lines;
+}
+
+std::string status(const std::string& id, bool passed)
+{
+    return "<monitor><id>" + id + "</id><status>" + (passed ? "true" : "false") + "</status></monitor>";
+}
+
+TEST(MonitorCommand, OnceRunsTheExampleAndPasses)
+{
+    auto result = runCli({"monitor", "--once", std::string(TVPOLICY_SOURCE_DIR) + "/examples/monitors.xml"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(linesOf(result.out), (std::vector<std::string>{status("agent-alive", true), status("no-p2p-client", true),
+                                                             status("remote-access-approved", true)}));
+}
+
+TEST(MonitorCommand, OnceFailsWhenAnyMonitorReportsFalse)
+{
+    testing_support::TempDir dir;
+    auto file = dir.write("m.xml", "<m><Monitor id='a'><true/></Monitor><Monitor id='b'><false/></Monitor>"
+                                   "<Monitor id='c' prohibit='true'><false/></Monitor></m>");
+    auto result = runCli({"monitor", file.string(), "--once"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(linesOf(result.out), (std::vector<std::string>{status("a", true), status("b", false), status("c", true)}));
+}
+
+// Both monitors are due at start and every second after; the first always runs first.
+TEST(MonitorCommand, RunsEachMonitorWhenDueInOrder)
+{
+    testing_support::TempDir dir;
+    auto file = dir.write("m.xml", "<m><Monitor id='first' period='1'><true/></Monitor>"
+                                   "<Monitor id='second' period='1' prohibit='true'><true/></Monitor>"
+                                   "<Monitor id='single'><true/></Monitor></m>");
+    auto result = runCli({"monitor", file.string(), "--count", "7"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    auto first = status("first", true);
+    auto second = status("second", false);
+    EXPECT_EQ(linesOf(result.out), (std::vector<std::string>{first, second, status("single", true), first, second,
+                                                             first, second}));
+}
+
+struct UsageCase {
+    std::vector<std::string> args;
+    std::string document;  // written to a file put after args; none when empty
+    std::string inErr;
+};
+
+class MonitorUsageTest : public testing::TestWithParam<UsageCase> {};
+
+TEST_P(MonitorUsageTest, ExitsTwoWithAMessage)
+{
+    testing_support::TempDir dir;
+    std::vector<std::string> args = GetParam().args;
+    if (!GetParam().document.empty()) {
+        args.push_back(dir.write("m.xml", GetParam().document).string());
+    }
+    auto result = runCli(args);
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.out, "");
+    EXPECT_NE(result.err.find(GetParam().inErr), std::string::npos) << result.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(Usage, MonitorUsageTest, testing::Values(
+    UsageCase{{"monitor", "/no/such/monitors.xml"}, "", "cannot read /no/such/monitors.xml"},
+    UsageCase{{"monitor", "--once"}, "<m><monitor id='lower-case'/></m>", "holds no Monitor element"},
+    UsageCase{{"monitor", "--once"}, "not xml", "holds no Monitor element"},
+    UsageCase{{"monitor", "--once", "--count", "2"}, "<Monitor id='a'/>", "excludes"},
+    UsageCase{{"monitor", "--count", "0"}, "<Monitor id='a'/>", "count"}));
+
+class MonitorSignalTest : public testing::TestWithParam<const char*> {};
+
+// The loop waits a minute for the next run; the signal ends it at once, between runs, with 0.
+TEST_P(MonitorSignalTest, StopsCleanlyBetweenRuns)
+{
+    testing_support::TempDir dir;
+    auto file = dir.write("m.xml", "<Monitor id='slow' period='60'><true/></Monitor>");
+    auto out = dir.path() / "out";
+    std::string script =
+        "\"$0\" monitor \"$1\" > \"$2\" 2>/dev/null & pid=$!\n"
+        "i=0; while [ ! -s \"$2\" ] && [ $i -lt 400 ]; do sleep 0.05; i=$((i+1)); done\n"
+        "kill -" + std::string(GetParam()) + " $pid\n"
+        "i=0; while kill -0 $pid 2>/dev/null && [ $i -lt 400 ]; do sleep 0.05; i=$((i+1)); done\n"
+        "kill -0 $pid 2>/dev/null && { kill -KILL $pid; echo hung; }\n"
+        "wait $pid; echo \"exit=$?\"; cat \"$2\"\n";
+    auto result = testing_support::runProgram({"sh", "-c", script, TVPOLICY_CLI, file.string(), out.string()});
+    EXPECT_EQ(linesOf(result.out), (std::vector<std::string>{"exit=0", status("slow", true)})) << result.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, MonitorSignalTest, testing::Values("TERM", "INT"));
+
+}  // namespace
