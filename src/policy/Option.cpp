@@ -1,5 +1,6 @@
 #include <tvpolicy/policy/Option.h>
 
+#include "policy/GroupIndex.h"
 #include "policy/ItemKey.h"
 
 using tvpolicy::policy::announcedName;
@@ -60,12 +61,13 @@ bool Option::test()
     bool result = sections.empty();
     bool allSkipped = true;
     int warnings = 0;
+    const auto groups = tvpolicy::policy::secondariesByGroup(sections);
     for (auto& [key, section] : sections) {
         if (!section->isPrimary()) {
             continue;  // evaluated from its group's primary
         }
         if (!section->getGroup().empty()) {
-            testGroup(key, *section, warnings, allSkipped);
+            testGroup(key, *section, tvpolicy::policy::membersOf(groups, section->getGroup()), warnings, allSkipped);
             continue;
         }
         announce(announcedName(key));
@@ -98,7 +100,8 @@ bool Option::test()
     return result;
 }
 
-void Option::testGroup(const std::string& key, Section& primarySection, int& warnings, bool& allSkipped)
+void Option::testGroup(const std::string& key, Section& primarySection,
+                       const std::vector<std::pair<std::string, Section*>>& secondaries, int& warnings, bool& allSkipped)
 {
     const std::string group = primarySection.getGroup();
     const std::string where = " section '" + primarySection.getName() + "' for group '" + group + "'";
@@ -115,10 +118,7 @@ void Option::testGroup(const std::string& key, Section& primarySection, int& war
     }
     allProhibited = allProhibited && primarySection.isProhibited();
     allSkipped = allSkipped && primarySection.isSkipped();
-    for (auto& [otherKey, secondary] : sections) {
-        if (secondary->isPrimary() || secondary->getGroup() != group) {
-            continue;
-        }
+    for (const auto& [otherKey, secondary] : secondaries) {
         if (!primaryPassed || primarySection.isSkipped()) {
             trace("\tSkipping evaluation of " + secondary->getName());
             announce("");

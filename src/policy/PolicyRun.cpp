@@ -4,6 +4,7 @@
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Section.h>
 
+#include "policy/GroupIndex.h"
 #include "policy/ItemKey.h"
 
 using tvpolicy::policy::announcedName;
@@ -27,6 +28,7 @@ bool Policy::run()
 {
     debug("Running_Policy " + name);
     result = true;
+    const auto groups = tvpolicy::policy::secondariesByGroup(items);
     for (auto& [key, item] : items) {
         bool option = isOption(*item);
         if (!item->isPrimary() && !option && !item->isCustomScan()) {
@@ -42,7 +44,7 @@ bool Policy::run()
                 result = false;
             }
         } else {
-            runGroup(key, *item);
+            runGroup(key, *item, tvpolicy::policy::membersOf(groups, item->getGroup()));
         }
     }
     progress = getProgressMax();
@@ -51,7 +53,8 @@ bool Policy::run()
     return result;
 }
 
-void Policy::runGroup(const std::string& key, Section& section)
+void Policy::runGroup(const std::string& key, Section& section,
+                      const std::vector<std::pair<std::string, Section*>>& secondaries)
 {
     const std::string group = section.getGroup();
     const std::string kind = section.isPrimary() ? "primary" : "secondary";
@@ -63,10 +66,7 @@ void Policy::runGroup(const std::string& key, Section& section)
     if (!passed && !section.isSkipped()) {
         result = false;
     }
-    for (auto& [otherKey, other] : items) {
-        if (other->isPrimary() || other->getGroup() != group) {
-            continue;
-        }
+    for (const auto& [otherKey, other] : secondaries) {
         if (!passed || section.isSkipped()) {
             debug("\tSkipping evaluation of " + other->getName());
             announce("");

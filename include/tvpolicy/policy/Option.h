@@ -4,6 +4,8 @@
 #include <map>
 #include <string>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include <tvpolicy/export.h>
 #include <tvpolicy/policy/Section.h>
@@ -37,7 +39,8 @@ public:
     const std::string& getPrimaryGroup() const { return primaryGroup; }
 
 private:
-    void testGroup(const std::string& key, Section& primarySection, int& warnings, bool& allSkipped);
+    void testGroup(const std::string& key, Section& primarySection,
+                   const std::vector<std::pair<std::string, Section*>>& secondaries, int& warnings, bool& allSkipped);
     void countOnlyOneGroups(bool& result);
 
     std::map<std::string, Section*> sections;

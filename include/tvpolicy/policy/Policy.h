@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/sax2/SAX2XMLReader.hpp>
@@ -109,7 +111,8 @@ private:
     void startOption(const xercesc::Attributes& attributes);
     void startInclude(const xercesc::Attributes& attributes);
     void startSection(const xercesc::Attributes& attributes);
-    void runGroup(const std::string& key, Section& section);
+    void runGroup(const std::string& key, Section& section,
+                  const std::vector<std::pair<std::string, Section*>>& secondaries);
 
     std::string policyUrl;
     xercesc::SAX2XMLReader* reader;

@@ -4,6 +4,7 @@
 #include <list>
 #include <stack>
 #include <string>
+#include <vector>
 
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/sax2/SAX2XMLReader.hpp>
@@ -92,7 +93,7 @@ protected:
     std::list<Task*> tasks;
     std::list<TaskResponse*> results;
     std::string url;
-    std::stack<Task*> taskStack;
+    std::stack<Task*, std::vector<Task*>> taskStack;
     bool passed_ = true;
     std::string instructionsUrl;
     Policy* policy = nullptr;
