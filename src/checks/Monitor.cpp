@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
+#include <limits>
 #include <memory>
 
 #include <xercesc/dom/DOMDocument.hpp>
@@ -175,7 +176,16 @@ MonitorResponse* Monitor::perform()
         }
     }
     nextRunTime = utcNow();
-    nextRunTime.tv_sec += static_cast<std::time_t>(period);
+    // A period from a hostile document must not overflow the clock: it saturates instead.
+    constexpr std::time_t latest = std::numeric_limits<std::time_t>::max();
+    constexpr std::time_t earliest = std::numeric_limits<std::time_t>::min();
+    if (period > 0 && nextRunTime.tv_sec > latest - period) {
+        nextRunTime.tv_sec = latest;
+    } else if (period < 0 && nextRunTime.tv_sec < earliest - period) {
+        nextRunTime.tv_sec = earliest;
+    } else {
+        nextRunTime.tv_sec += static_cast<std::time_t>(period);
+    }
 
     // With prohibit the outcome is inverted: a prohibited condition that is absent reports true.
     const char* status = result == prohibit ? "false" : "true";

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <iostream>
+#include <limits>
 #include <memory>
 
 #include "support/CaptureStream.h"
@@ -123,6 +124,12 @@ TEST(Monitor, NextRunTimeIsTheLastRunPlusThePeriod)
     EXPECT_GE(seconds(monitors[0]->getNextRunTime()), ran + 30);
     EXPECT_LE(seconds(monitors[0]->getNextRunTime()), after + 30);
     // No period: the next run time is the time of the last run.
+    MonitorList extreme = parseMonitors("<m><Monitor id='far' period='99999999999999999999'/>"
+                                        "<Monitor id='past' period='-99999999999999999999'/></m>");
+    statusOf(*extreme[0]);
+    statusOf(*extreme[1]);
+    EXPECT_EQ(extreme[0]->getNextRunTime().tv_sec, std::numeric_limits<std::time_t>::max());
+    EXPECT_LT(extreme[1]->getNextRunTime().tv_sec, 0);
     EXPECT_GE(seconds(monitors[1]->getNextRunTime()), ran);
     EXPECT_LE(seconds(monitors[1]->getNextRunTime()), after);
 }

@@ -26,17 +26,22 @@ extern "C" void requestStop(int)
     errno = saved;
 }
 
+// Milliseconds from now until `deadline`: 0 once it has passed, at most an hour (the caller
+// waits again), and no overflow for deadlines far away in either direction.
 long millisecondsUntil(const std::timespec& deadline)
 {
+    constexpr long longestWait = 3600000;
     std::timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
-    long long nanos = (static_cast<long long>(deadline.tv_sec) - now.tv_sec) * 1000000000LL +
-                      (deadline.tv_nsec - now.tv_nsec);
-    if (nanos <= 0) {
+    if (deadline.tv_sec < now.tv_sec) {
         return 0;
     }
-    long long millis = (nanos + 999999) / 1000000;
-    return millis > 3600000 ? 3600000 : static_cast<long>(millis);
+    if (deadline.tv_sec - now.tv_sec >= longestWait / 1000) {
+        return longestWait;
+    }
+    long long nanos = static_cast<long long>(deadline.tv_sec - now.tv_sec) * 1000000000LL +
+                      (deadline.tv_nsec - now.tv_nsec);
+    return nanos <= 0 ? 0 : static_cast<long>((nanos + 999999) / 1000000);
 }
 
 }  // namespace
