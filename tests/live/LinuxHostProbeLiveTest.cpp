@@ -18,6 +18,7 @@
 #include <memory>
 #include <sstream>
 #include <thread>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include "support/ChildProcess.h"
@@ -237,6 +238,10 @@ TEST_F(CraftedRootTest, OsReleaseFallsBackToUsrLib)
     root.write("etc/os-release", "NAME='Alpine Linux'\nVERSION_ID=3.19.1\n");
     EXPECT_EQ(probe.osProductVersion(), "3.19.1");
     EXPECT_EQ(probe.osProductName(), "Alpine Linux");
+
+    std::filesystem::remove(root.path() / "etc/os-release");
+    ASSERT_EQ(::mkfifo((root.path() / "etc/os-release").c_str(), 0600), 0);
+    EXPECT_EQ(probe.osProductVersion(), "") << "a FIFO without a writer is read as empty, not waited on";
 }
 
 TEST_F(CraftedRootTest, HardwareIdentityFromDmiFiles)

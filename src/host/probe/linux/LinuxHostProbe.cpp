@@ -8,10 +8,10 @@
 #include <utility>
 
 #include <dirent.h>
-#include <spawn.h>
-#include <sys/wait.h>
 #include <fcntl.h>
+#include <spawn.h>
 #include <sys/utsname.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "host/parse/OsRelease.h"
@@ -28,10 +28,11 @@ struct DirCloser {
 };
 
 // Reads at most `limit` bytes of the file at `path` (relative to `dirFd`) into `text`. False
-// when it cannot be opened or read, for instance because its process has just ended.
+// when it cannot be opened or read, for instance because its process has just ended. A FIFO
+// or device put in a file's place gives what it has at once instead of blocking.
 bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text)
 {
-    int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC | O_NOCTTY);
+    int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (fd < 0) {
         return false;
     }
@@ -44,6 +45,12 @@ bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text)
     while (text.size() < limit) {
         std::size_t want = std::min(sizeof buffer, limit - text.size());
         ssize_t got = ::read(fd, buffer, want);
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got < 0 && errno == EAGAIN) {
+            break;
+        }
         if (got < 0) {
             return false;
         }
