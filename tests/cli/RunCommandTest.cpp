@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -185,6 +186,26 @@ TEST(RunCommand, MissingSourceIsAUsageError)
     EXPECT_EQ(missing.err, "tvpolicy run: cannot read '/nonexistent/policy.xml': No such file or directory\n");
     auto none = runCli({"run"});
     EXPECT_EQ(none.exitCode, 2);
+}
+
+}  // namespace
+
+namespace {
+
+// On a terminal the progress is one bar, redrawn in place and cleared at the end.
+TEST(RunCommand, DrawsABarOnATerminal)
+{
+    if (std::system("command -v script >/dev/null 2>&1") != 0) {
+        GTEST_SKIP() << "the script program (util-linux) is not installed, so no terminal can be given";
+    }
+    std::string command = std::string(TVPOLICY_CLI) + " run " + example("options.xml") + " >/dev/null";
+    auto result = testing_support::runProgram({"script", "-qec", command, "/dev/null"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_NE(result.out.find("\r[#####-------------------------] 1/6 Vendor antivirus\033[K"), std::string::npos)
+        << result.out;
+    EXPECT_NE(result.out.find("\r[##############################] 6/6 Agent configuration\033[K\r\033[K"),
+              std::string::npos);
+    EXPECT_EQ(result.out.find("[1/6]"), std::string::npos);  // no plain lines
 }
 
 }  // namespace

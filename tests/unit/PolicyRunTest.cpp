@@ -196,3 +196,26 @@ TEST(OptionRules, AllFailedAndGroupQueries)
 }
 
 }  // namespace
+
+namespace {
+
+// Progress as a slot sees it at each announcement: options and grouped top-level primaries
+// count their sections after announcing them, ungrouped sections and top-level secondaries do
+// not count, and the end sets the maximum before its empty announcement.
+TEST(PolicyRun, ProgressCountsAsSectionsAreAnnounced)
+{
+    auto parsed = parsePolicy("<policy><option name=\"o\">" + section("P1", "primary=\"true\" group=\"a\"", fail) +
+                              section("S1", "group=\"a\"", pass) + section("P2", "primary=\"true\" group=\"b\"", pass) +
+                              section("S2", "group=\"b\"", pass) + "</option>" + section("X", "primary=\"true\"", pass) +
+                              section("G", "primary=\"true\" group=\"g\"", pass) + section("H", "group=\"g\"", pass) +
+                              "</policy>");
+    Policy& policy = *parsed.policy;
+    std::vector<std::uint32_t> seen;
+    policy.connect([&](std::shared_ptr<std::string>) { seen.push_back(policy.getProgress()); });
+    CaptureStream log(std::clog);
+    policy.run();
+    EXPECT_EQ(seen, (std::vector<std::uint32_t>{0, 1, 2, 3, 4, 4, 5, 7}));
+    EXPECT_EQ(policy.getProgressMax(), 7u);
+}
+
+}  // namespace

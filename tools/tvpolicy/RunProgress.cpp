@@ -4,6 +4,20 @@
 
 namespace cli {
 
+namespace {
+
+// At most 40 bytes of a UTF-8 name, never cutting a character in two.
+std::string shortened(const std::string& name)
+{
+    std::size_t length = std::min<std::size_t>(name.size(), 40);
+    while (length < name.size() && length > 0 && (static_cast<unsigned char>(name[length]) & 0xC0) == 0x80) {
+        --length;
+    }
+    return name.substr(0, length);
+}
+
+}  // namespace
+
 void RunProgress::announce(const std::string& sectionName)
 {
     if (heldBack_) {
@@ -37,7 +51,7 @@ void RunProgress::show(const std::string& label)
     constexpr unsigned width = 30;
     unsigned filled = max_ > 0 ? shown * width / max_ : width;
     std::string bar = std::string(filled, '#') + std::string(width - filled, '-');
-    err_ << "\r[" << bar << "] " << shown << "/" << max_ << " " << label.substr(0, 40) << "\033[K" << std::flush;
+    err_ << "\r[" << bar << "] " << shown << "/" << max_ << " " << shortened(label) << "\033[K" << std::flush;
 }
 
 }  // namespace cli
