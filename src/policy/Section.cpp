@@ -1,5 +1,6 @@
 #include <tvpolicy/policy/Section.h>
 
+#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
