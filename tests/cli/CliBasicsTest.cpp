@@ -5,8 +5,6 @@
 #include "support/RunCli.h"
 #include "support/TempDir.h"
 
-#include <fstream>
-#include <sstream>
 
 using testing_support::runCli;
 
@@ -53,10 +51,7 @@ TEST(Cli, LogFileTakesTheLibrarysLinesAndAppends)
     auto log = dir.write("agent.log", "earlier line\n");
     auto result = runCli({"--log", log.string(), "tasks"});
     EXPECT_EQ(result.exitCode, 0);
-    std::ifstream in(log);
-    std::stringstream content;
-    content << in.rdbuf();
-    EXPECT_EQ(content.str().rfind("earlier line\n", 0), 0u);
+    EXPECT_EQ(testing_support::readFile(log).rfind("earlier line\n", 0), 0u);
 }
 
 }  // namespace

@@ -3,8 +3,6 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -16,14 +14,6 @@ namespace {
 using testing_support::runCli;
 
 std::string example(const std::string& name) { return std::string(TVPOLICY_SOURCE_DIR) + "/examples/" + name; }
-
-std::string readFile(const std::string& path)
-{
-    std::ifstream in(path);
-    std::stringstream content;
-    content << in.rdbuf();
-    return content.str();
-}
 
 struct ExampleCase {
     std::string file;
@@ -156,7 +146,7 @@ const std::string unreadable = "Unable to read policy.\n\nPlease check your pers
 
 std::string truncatedExample()
 {
-    std::string text = readFile(example("compliant.xml"));
+    std::string text = testing_support::readFile(example("compliant.xml"));
     return text.substr(0, text.find("<section name=\"Policy logic\""));
 }
 

@@ -14,9 +14,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <memory>
-#include <sstream>
 #include <thread>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -37,14 +35,6 @@ std::string shellOutput(const std::string& script)
     auto result = runProgram({"sh", "-c", script});
     EXPECT_EQ(result.exitCode, 0) << script << ": " << result.err;
     return result.out;
-}
-
-std::string contentOf(const std::filesystem::path& file)
-{
-    std::ifstream in(file);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
 }
 
 TEST(LinuxHostProbeLive, OsReleaseReadsAsTheShellReadsIt)
@@ -120,7 +110,7 @@ TEST(LinuxHostProbeLive, OpenURLHandsTheURLToXdgOpenAsOneArgument)
     for (int i = 0; i < 500 && !std::filesystem::exists(received); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
-    EXPECT_EQ(contentOf(received), "1|" + url);
+    EXPECT_EQ(testing_support::readFile(received), "1|" + url);
     EXPECT_FALSE(std::filesystem::exists(dir.path() / "pwned"));
 }
 
@@ -140,7 +130,7 @@ TEST(FlushDNSLive, IssuesTheFlushOfTheRunningResolver)
     const std::string resolver = tvpolicy::systemHost().dnsFlushCommand();
     if (!resolver.empty()) {
         EXPECT_TRUE(std::unique_ptr<TaskResponse>(task->perform())->passed);
-        EXPECT_EQ(contentOf(issued), resolver + "\n");
+        EXPECT_EQ(testing_support::readFile(issued), resolver + "\n");
         GTEST_SKIP() << "this machine runs a caching resolver already (" << resolver << ")";
     }
     EXPECT_FALSE(std::unique_ptr<TaskResponse>(task->perform())->passed) << "no resolver cache runs";
@@ -151,7 +141,7 @@ TEST(FlushDNSLive, IssuesTheFlushOfTheRunningResolver)
     std::filesystem::permissions(dir.path() / "daemon/nscd", std::filesystem::perms::owner_all);
     testing_support::ChildProcess nscd({(dir.path() / "daemon/nscd").string(), "300"});
     EXPECT_TRUE(std::unique_ptr<TaskResponse>(task->perform())->passed);
-    EXPECT_EQ(contentOf(issued), "nscd -i hosts\n");
+    EXPECT_EQ(testing_support::readFile(issued), "nscd -i hosts\n");
 }
 
 // A folder laid out like the root of a Linux system.

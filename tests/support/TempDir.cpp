@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
 #include <vector>
@@ -32,6 +33,14 @@ std::filesystem::path TempDir::write(const std::string& relative, const std::str
     std::ofstream stream(file, std::ios::binary);
     stream << content;
     return file;
+}
+
+std::string readFile(const std::filesystem::path& file)
+{
+    std::ifstream in(file, std::ios::binary);
+    std::stringstream content;
+    content << in.rdbuf();
+    return content.str();
 }
 
 }  // namespace testing_support

@@ -21,4 +21,7 @@ private:
     std::filesystem::path path_;
 };
 
+/// The whole content of `file`; empty when it cannot be read.
+std::string readFile(const std::filesystem::path& file);
+
 }  // namespace testing_support

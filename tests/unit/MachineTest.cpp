@@ -37,53 +37,37 @@ INSTANTIATE_TEST_SUITE_P(Versions, MachineVersionTest, testing::Values(
     VersionCase{"Odd\nName\n", "\n10.\n6\n", "10.6", "OddName 10.6"},
     VersionCase{"", "", "", " "}));
 
-struct HostNameCase {
-    std::string node;
-    std::string hostName;
-};
-
-class MachineHostNameTest : public testing::TestWithParam<HostNameCase> {};
-
-TEST_P(MachineHostNameTest, CutsAtTheFirstDot)
+TEST(Machine, HostNameIsCutAtTheFirstDot)
 {
-    FakeHost host;
-    host.node = GetParam().node;
-    ScopedHost scope(host);
-    EXPECT_EQ(Machine::getHostName(), GetParam().hostName);
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"alpha", "alpha"}, {"alpha.lan", "alpha"}, {"alpha.corp.example.com", "alpha"},
+        {".hidden.lan", "hidden"}, {"...", ""}, {"", ""}};
+    for (const auto& [node, hostName] : cases) {
+        FakeHost host;
+        host.node = node;
+        ScopedHost scope(host);
+        EXPECT_EQ(Machine::getHostName(), hostName) << node;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, MachineHostNameTest, testing::Values(
-    HostNameCase{"alpha", "alpha"},
-    HostNameCase{"alpha.lan", "alpha"},
-    HostNameCase{"alpha.corp.example.com", "alpha"},
-    HostNameCase{".hidden.lan", "hidden"},
-    HostNameCase{"...", ""},
-    HostNameCase{"", ""}));
 
 using Identity = tvpolicy::HostProbe::HardwareIdentity;
 
-struct HardwareCase {
-    Identity identity;
-    std::string description;
-};
-
-class MachineHardwareTest : public testing::TestWithParam<HardwareCase> {};
-
-TEST_P(MachineHardwareTest, JoinsWhatTheHardwareRecords)
+TEST(Machine, HardwareDescriptionJoinsWhatTheHardwareRecords)
 {
-    FakeHost host;
-    host.hardware = GetParam().identity;
-    ScopedHost scope(host);
-    EXPECT_EQ(Machine::getHardwareDesc(), GetParam().description);
+    const std::vector<std::pair<Identity, std::string>> cases = {
+        {{"Apple Inc.", "MacBookPro8,1", "1.0", {}, {}}, "Apple Inc. MacBookPro8,1 1.0"},
+        {{{}, "MacBookPro8,1", "1.0", {}, {}}, " MacBookPro8,1 1.0"},
+        {{"LENOVO", {}, "ThinkPad X1", {}, {}}, "LENOVO ThinkPad X1"},
+        {{"LENOVO", "20KH", {}, {}, {}}, "LENOVO 20KH"},
+        {{"QEMU", "", "", {}, {}}, "QEMU  "},
+        {{}, ""}};
+    for (const auto& [identity, description] : cases) {
+        FakeHost host;
+        host.hardware = identity;
+        ScopedHost scope(host);
+        EXPECT_EQ(Machine::getHardwareDesc(), description);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Identities, MachineHardwareTest, testing::Values(
-    HardwareCase{{"Apple Inc.", "MacBookPro8,1", "1.0", {}, {}}, "Apple Inc. MacBookPro8,1 1.0"},
-    HardwareCase{{{}, "MacBookPro8,1", "1.0", {}, {}}, " MacBookPro8,1 1.0"},
-    HardwareCase{{"LENOVO", {}, "ThinkPad X1", {}, {}}, "LENOVO ThinkPad X1"},
-    HardwareCase{{"LENOVO", "20KH", {}, {}, {}}, "LENOVO 20KH"},
-    HardwareCase{{"QEMU", "", "", {}, {}}, "QEMU  "},
-    HardwareCase{{}, ""}));
 
 TEST(Machine, IdentityTextsAreCutAt127Characters)
 {

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
+#include "support/TempDir.h"
 
 namespace {
 
@@ -61,11 +60,9 @@ class OsReleaseRealFileTest : public testing::TestWithParam<RealFileCase> {};
 TEST_P(OsReleaseRealFileTest, GivesNameAndVersion)
 {
     const RealFileCase& c = GetParam();
-    std::ifstream in(std::string(TVPOLICY_TEST_DATA) + "/os-release/" + c.file);
-    ASSERT_TRUE(in) << c.file;
-    std::stringstream text;
-    text << in.rdbuf();
-    OsRelease release = OsRelease::parse(text.str());
+    std::string text = testing_support::readFile(std::string(TVPOLICY_TEST_DATA) + "/os-release/" + c.file);
+    ASSERT_FALSE(text.empty()) << c.file;
+    OsRelease release = OsRelease::parse(text);
     EXPECT_EQ(release.value("NAME"), c.name);
     EXPECT_EQ(release.value("VERSION_ID"), c.versionId);
     EXPECT_EQ(release.has("VERSION_ID"), c.hasVersionId);

@@ -90,28 +90,13 @@ struct GateCase {
     std::string command;
 };
 
-class DnsFlushGateTest : public testing::TestWithParam<GateCase> {};
-
-TEST_P(DnsFlushGateTest, PicksTheToolOfTheVersion)
-{
-    EXPECT_EQ(tvpolicy::macOSDnsFlushCommand(GetParam().osVersion), GetParam().command);
-}
-
-INSTANTIATE_TEST_SUITE_P(Versions, DnsFlushGateTest, testing::Values(
-    GateCase{"10.6.8", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"10.5", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"11.2.3", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"10.4.11", "/usr/bin/lookupd -flushcache"},
-    GateCase{"10.4", "/usr/bin/lookupd -flushcache"},
-    GateCase{"10.3.9", ""},
-    GateCase{"9.2", ""},
-    GateCase{"", ""}));
-
 class FlushDNSTaskTest : public testing::TestWithParam<GateCase> {};
 
-// A host whose flush command is the one its macOS version gives, as the macOS backend has it.
-TEST_P(FlushDNSTaskTest, IssuesTheHostsFlushCommand)
+// The macOS version picks the tool; the task issues it on a host whose flush command is the one
+// that version gives, as the macOS backend has it.
+TEST_P(FlushDNSTaskTest, IssuesTheToolOfTheVersion)
 {
+    EXPECT_EQ(tvpolicy::macOSDnsFlushCommand(GetParam().osVersion), GetParam().command);
     FakeHost host;
     host.productVersion = GetParam().osVersion;
     host.flushCommand = tvpolicy::macOSDnsFlushCommand(host.productVersion);
@@ -132,9 +117,13 @@ TEST_P(FlushDNSTaskTest, IssuesTheHostsFlushCommand)
 
 INSTANTIATE_TEST_SUITE_P(Versions, FlushDNSTaskTest, testing::Values(
     GateCase{"10.6.8", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"10.4.11", "/usr/bin/lookupd -flushcache"},
     GateCase{"10.5", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"10.3.9", ""}));
+    GateCase{"11.2.3", "/usr/bin/dscacheutil -flushcache"},
+    GateCase{"10.4.11", "/usr/bin/lookupd -flushcache"},
+    GateCase{"10.4", "/usr/bin/lookupd -flushcache"},
+    GateCase{"10.3.9", ""},
+    GateCase{"9.2", ""},
+    GateCase{"", ""}));
 
 TEST(FlushDNS, ToolCommandsGiveTheirStatus)
 {

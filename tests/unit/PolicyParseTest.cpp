@@ -6,11 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <fstream>
 #include <functional>
 #include <iostream>
 #include <memory>
-#include <sstream>
 
 #include "support/CaptureStream.h"
 #include "support/PolicyText.h"
@@ -230,11 +228,7 @@ TEST(PolicyDebug, TheDebugElementOpensTheFileUnderTemp)
         std::string text = testing_support::withoutTimestamps(log.text());
         EXPECT_NE(text.find("Running_Policy d\nDebug: Running_Policy d\n"), std::string::npos) << text;
     }
-    std::ifstream file(dir.path() / "\\csalog.txt");
-    ASSERT_TRUE(file.is_open());
-    std::stringstream content;
-    content << file.rdbuf();
-    std::string text = testing_support::withoutTimestamps(content.str());
+    std::string text = testing_support::withoutTimestamps(testing_support::readFile(dir.path() / "\\csalog.txt"));
     EXPECT_EQ(text.substr(0, 47), "Running_Policy d\n\tTesting s\n\t\ttrueTask Passed \n");
 }
 

@@ -58,13 +58,6 @@ INSTANTIATE_TEST_SUITE_P(Names, ProcessListNameTest, testing::Values(
     NameCase{"/usr/bin/bash", false},                 // a directory part never matches
     NameCase{"", false}));
 
-TEST(ProcessList, EmptyTableRunsNothing)
-{
-    FakeHost host;
-    ScopedHost scope(host);
-    EXPECT_FALSE(ProcessList().isProcessRunning("init"));
-}
-
 TEST(ProcessList, ReadsTheTableAfreshOnEveryQuery)
 {
     FakeHost host;

@@ -5,6 +5,7 @@
 
 #include <list>
 #include <regex>
+#include <tuple>
 #include <sstream>
 
 namespace {
@@ -70,70 +71,41 @@ INSTANTIATE_TEST_SUITE_P(Urls, SplitUrlTest, testing::Values(
     UrlCase{"svc", "", "", ""},
     UrlCase{"", "", "", ""}));
 
-struct EncodeCase {
-    std::string text;
-    std::string encoded;
-};
-
-class UrlencodeTest : public testing::TestWithParam<EncodeCase> {};
-
-TEST_P(UrlencodeTest, EncodesAllButTheFirstCharacter)
+TEST(Urlencode, EncodesAllButTheFirstCharacter)
 {
-    EXPECT_EQ(urlencode(GetParam().text), GetParam().encoded);
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"a&b=c d", "a%26b%3Dc%20d"}, {"%", "%"}, {"x%", "x%25"}, {"&&", "&%26"}, {"/a b", "/a%20b"}, {"", ""},
+        {"x\r\n\"#,./:;<>?", "x%0D%0A%22%23%2C%2E%2F%3A%3B%3C%3E%3F"}, {"a%20", "a%2520"},
+        {"a-_~+@!\xc3\xa9Z9", "a-_~+@!\xc3\xa9Z9"}};
+    for (const auto& [text, encoded] : cases) {
+        EXPECT_EQ(urlencode(text), encoded) << text;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, UrlencodeTest, testing::Values(
-    EncodeCase{"a&b=c d", "a%26b%3Dc%20d"},
-    EncodeCase{"%", "%"},
-    EncodeCase{"x%", "x%25"},
-    EncodeCase{"&&", "&%26"},
-    EncodeCase{"/a b", "/a%20b"},
-    EncodeCase{"", ""},
-    EncodeCase{"x\r\n\"#,./:;<>?", "x%0D%0A%22%23%2C%2E%2F%3A%3B%3C%3E%3F"},
-    EncodeCase{"a%20", "a%2520"},
-    EncodeCase{"a-_~+@!\xc3\xa9Z9", "a-_~+@!\xc3\xa9Z9"}));
-
-struct MacCase {
-    std::string in;
-    std::string out;
-};
-
-class NormalizeMacTest : public testing::TestWithParam<MacCase> {};
-
-TEST_P(NormalizeMacTest, UppercasesOnlyHexLetters)
+TEST(NormalizeMac, UppercasesOnlyHexLetters)
 {
-    std::string mac = GetParam().in;
-    normalizeMAC(mac);
-    EXPECT_EQ(mac, GetParam().out);
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"00:1b:63:ab:cd:ef", "00:1B:63:AB:CD:EF"}, {"zz-gg", "zz-gg"}, {"", ""}, {"aA:fF:gG", "AA:FF:gG"}};
+    for (auto [mac, normalized] : cases) {
+        normalizeMAC(mac);
+        EXPECT_EQ(mac, normalized);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Macs, NormalizeMacTest, testing::Values(
-    MacCase{"00:1b:63:ab:cd:ef", "00:1B:63:AB:CD:EF"},
-    MacCase{"zz-gg", "zz-gg"},
-    MacCase{"", ""},
-    MacCase{"aA:fF:gG", "AA:FF:gG"}));
-
-struct CommandCase {
-    std::string command;
-    unsigned long bufferSize;
-    std::string output;
-};
-
-class CommandOutputTest : public testing::TestWithParam<CommandCase> {};
-
-TEST_P(CommandOutputTest, ReturnsEverythingWrittenUntouched)
+TEST(CommandOutput, ReturnsEverythingWrittenUntouched)
 {
-    EXPECT_EQ(getOutputFromCommand(GetParam().command, GetParam().bufferSize), GetParam().output);
+    const std::vector<std::tuple<std::string, unsigned long, std::string>> cases = {
+        {"printf '1.2\\n'", 256, "1.2\n"},
+        // A line longer than the buffer arrives in pieces and is joined.
+        {"printf 'abcdefghijklmnopqrstuvwxyz\\n0123'", 4, "abcdefghijklmnopqrstuvwxyz\n0123"},
+        {"printf 'xy'", 1, "xy"},
+        {"printf 'one\\ntwo\\n\\n'", 8192, "one\ntwo\n\n"},
+        {"exit 3", 256, ""},
+        {"echo hidden >&2", 256, ""}};
+    for (const auto& [command, bufferSize, output] : cases) {
+        EXPECT_EQ(getOutputFromCommand(command, bufferSize), output) << command;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Commands, CommandOutputTest, testing::Values(
-    CommandCase{"printf '1.2\\n'", 256, "1.2\n"},
-    // A line longer than the buffer arrives in pieces and is joined.
-    CommandCase{"printf 'abcdefghijklmnopqrstuvwxyz\\n0123'", 4, "abcdefghijklmnopqrstuvwxyz\n0123"},
-    CommandCase{"printf 'xy'", 1, "xy"},
-    CommandCase{"printf 'one\\ntwo\\n\\n'", 8192, "one\ntwo\n\n"},
-    CommandCase{"exit 3", 256, ""},
-    CommandCase{"echo hidden >&2", 256, ""}));
 
 TEST(CommandOutput, EmptyCommandStartsNoShell)
 {
