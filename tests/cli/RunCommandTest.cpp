@@ -8,6 +8,7 @@
 
 #include "support/RunCli.h"
 #include "support/TempDir.h"
+#include "support/XmlText.h"
 
 namespace {
 
@@ -150,23 +151,13 @@ std::string truncatedExample()
     return text.substr(0, text.find("<section name=\"Policy logic\""));
 }
 
-std::string deepPolicy()
-{
-    std::string open, close;
-    for (int i = 0; i < 200000; ++i) {
-        open += "<and>";
-        close += "</and>";
-    }
-    return "<policy>\n<section name=\"s\">\n" + open + close + "</section></policy>";
-}
-
 INSTANTIATE_TEST_SUITE_P(Policies, UnreadablePolicyTest, testing::Values(
     UnreadableCase{"Truncated", truncatedExample(), "A configuration error has occurred at line: 22"},
     UnreadableCase{"Empty", "", unreadable},
     // Trimmed to its last ">", the page is one line: the document could not be read at all.
     UnreadableCase{"ErrorPage", "<html><body>502 Bad Gateway</body>\n</html", unreadable},
     UnreadableCase{"BrokenOnALaterLine", "<policy>\n<section name=\"s\">\n</policy>", "A configuration error has occurred at line: 3"},
-    UnreadableCase{"NestedTooDeep", deepPolicy(), "A configuration error has occurred at line: 3"}),
+    UnreadableCase{"NestedTooDeep", "<policy>\n<section name=\"s\">\n" + testing_support::nested("and", 200000, "") + "</section></policy>", "A configuration error has occurred at line: 3"}),
     [](const testing::TestParamInfo<UnreadableCase>& info) { return info.param.title; });
 
 TEST(RunCommand, MissingSourceIsAUsageError)

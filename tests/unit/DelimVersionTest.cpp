@@ -52,6 +52,9 @@ TEST_P(DelimVersionRules, Compare)
 
     std::vector<std::string> lines = logMessages(log.text());
     ASSERT_GE(lines.size(), 2u);
+    if (c.op != "gt") {
+        EXPECT_EQ(lines.size(), 2u) << "only \"gt\" logs its steps";
+    }
     EXPECT_EQ(std::vector<std::string>(lines.end() - 2, lines.end()),
               closingLines(c.requested, c.system, c.delim, c.expected));
 }
@@ -146,16 +149,6 @@ TEST(DelimVersion, GreaterThanLogsEachStepAndTheTie)
         "done = true retval = false",
         "DelimVersion.. Requested: 10.6 System: 10.6 Delim: .",
         "DelimVersion.. Returning: false"}));
-}
-
-TEST(DelimVersion, OnlyGreaterThanLogsSteps)
-{
-    for (std::string op : {"gte", "eq", "lte", "lt"}) {
-        DelimVersion version(op);
-        CaptureStream log(std::clog);
-        version.versionAtLeast("10.6", ".", "10.6");
-        EXPECT_EQ(logMessages(log.text()).size(), 2u) << op;
-    }
 }
 
 struct ReorderCase {

@@ -10,6 +10,7 @@
 
 #include "checks/FileWalker.h"
 #include "support/TempDir.h"
+#include "support/XmlText.h"
 
 namespace {
 
@@ -165,10 +166,7 @@ TEST(FindFile, UnreadableSubdirectoriesArePassedOver)
 TEST(FindFile, DeepTreesAreWalkedToTheBottom)
 {
     TempDir tmp;
-    std::string relative;
-    for (int i = 0; i < 200; ++i) {
-        relative += "d/";
-    }
+    const std::string relative = testing_support::repeat("d/", 200);
     tmp.write(relative + "target", "");
     stdfs::path found;
     ASSERT_TRUE(find_file(tmp.path(), "target", found));

@@ -13,6 +13,7 @@
 
 #include "support/CaptureStream.h"
 #include "support/TempDir.h"
+#include "support/XmlText.h"
 #include "xml/DomReader.h"
 
 using testing_support::CaptureStream;
@@ -21,38 +22,11 @@ namespace {
 
 const std::string ns = com::torvane::agentSchemaNamespace;
 
-std::string repeat(const std::string& part, unsigned count)
-{
-    std::string text;
-    for (unsigned i = 0; i < count; ++i) {
-        text += part;
-    }
-    return text;
-}
+using testing_support::repeat;
 
-std::string nested(unsigned depth, const std::string& inner = "x")
-{
-    return repeat("<e>", depth) + inner + repeat("</e>", depth);
-}
-
-std::string withAttributes(unsigned count)
-{
-    std::string text = "<e";
-    for (unsigned i = 0; i < count; ++i) {
-        text += " a" + std::to_string(i) + "='v'";
-    }
-    return text + "/>";
-}
-
-std::string billionLaughs()
-{
-    std::string text = "<?xml version='1.0'?><!DOCTYPE r [<!ENTITY l0 'lol'>";
-    for (int i = 1; i < 10; ++i) {
-        std::string previous = "&l" + std::to_string(i - 1) + ";";
-        text += "<!ENTITY l" + std::to_string(i) + " '" + repeat(previous, 10) + "'>";
-    }
-    return text + "]><r xmlns='" + ns + "'><junk>&l9;</junk></r>";
-}
+std::string nested(int depth) { return testing_support::nested("e", depth, "x"); }
+std::string withAttributes(int count) { return "<e" + testing_support::numberedAttributes(count) + "/>"; }
+std::string billionLaughs() { return testing_support::entityBomb("r", 9) + "<r xmlns='" + ns + "'><junk>&l9;</junk></r>"; }
 
 struct LimitCase {
     std::string name;

@@ -13,6 +13,7 @@
 #include "support/CaptureStream.h"
 #include "support/PolicyText.h"
 #include "support/TempDir.h"
+#include "support/XmlText.h"
 
 namespace {
 
@@ -26,27 +27,11 @@ long peakKilobytes()
     return usage.ru_maxrss;
 }
 
-std::string nested(const std::string& element, int depth, const std::string& inner)
-{
-    std::string open, close;
-    for (int i = 0; i < depth; ++i) {
-        open += "<" + element + ">";
-        close += "</" + element + ">";
-    }
-    return open + inner + close;
-}
+using testing_support::nested;
 
 TEST(HostilePolicy, BillionLaughsEndsAsAFatalErrorInAFewMegabytes)
 {
-    std::string xml = "<?xml version=\"1.0\"?>\n<!DOCTYPE policy [\n<!ENTITY a0 \"lol\">\n";
-    for (int i = 1; i <= 10; ++i) {
-        xml += "<!ENTITY a" + std::to_string(i) + " \"";
-        for (int j = 0; j < 10; ++j) {
-            xml += "&a" + std::to_string(i - 1) + ";";
-        }
-        xml += "\">\n";
-    }
-    xml += "]>\n<policy name=\"p\">\n<note>&a10;</note>\n</policy>";
+    std::string xml = testing_support::entityBomb("policy", 10) + "<policy name=\"p\">\n<note>&l10;</note>\n</policy>";
     long before = peakKilobytes();
     auto parsed = parsePolicy(xml);
     EXPECT_TRUE(parsed.policy->getFatalParseError());
@@ -121,11 +106,8 @@ TEST(HostilePolicy, NestingWithinTheBoundIsEvaluated)
 
 TEST(HostilePolicy, TooManyAttributesAreRefused)
 {
-    std::string attributes;
-    for (int i = 0; i < 300; ++i) {
-        attributes += " a" + std::to_string(i) + "=\"v\"";
-    }
-    auto parsed = parsePolicy("<policy>\n<section name=\"s\">\n<Validate" + attributes + "/></section></policy>");
+    auto parsed = parsePolicy("<policy>\n<section name=\"s\">\n<Validate" + testing_support::numberedAttributes(300) +
+                              "/></section></policy>");
     ASSERT_TRUE(parsed.policy->getFatalParseError());
     EXPECT_EQ(parsed.policy->getFatalErrorMsg(), "A configuration error has occurred at line: 3");
     EXPECT_EQ(parsed.out, "Error,  an element has more than 256 attributes\n");

@@ -11,6 +11,7 @@
 #include <regex>
 
 #include "support/CaptureStream.h"
+#include "support/XmlText.h"
 #include "xml/DomReader.h"
 #include "xml/ElementIndex.h"
 #include "xml/DomText.h"
@@ -92,14 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Tags, ExtractTextTest, testing::Values(
 
 TEST(TextContent, MatchesTheDomWithoutRecursing)
 {
-    std::string deep;
-    for (int i = 0; i < 200; ++i) {
-        deep += "<e>" + std::to_string(i % 10) + "<!--c--><?pi x?>";
-    }
-    for (int i = 0; i < 200; ++i) {
-        deep += "</e>";
-    }
-    auto doc = parse(deep);
+    auto doc = parse(testing_support::repeat("<e>0<!--c--><?pi x?><e>1<!--c--><?pi x?>", 100) + testing_support::repeat("</e>", 200));
     ASSERT_TRUE(doc);
     auto* root = doc->getDocumentElement();
     EXPECT_EQ(tvpolicy::xml::textContent(root), tvpolicy::xml::XmlString(root->getTextContent()));
