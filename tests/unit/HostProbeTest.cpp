@@ -24,25 +24,17 @@ TEST(HostProbe, ScopedHostSwapsAndRestoresNested)
     EXPECT_EQ(&tvpolicy::currentHost(), real);
 }
 
-struct PathCase {
-    std::string path;
-    std::string mapped;
-};
-
-class FakeHostPathTest : public testing::TestWithParam<PathCase> {};
-
-TEST_P(FakeHostPathTest, LongestPrefixWins)
+TEST(FakeHost, LongestPrefixWins)
 {
     FakeHost host;
     host.pathMap = {{"/Library/", "/tmp/lib/"}, {"/Library/Receipts/", "/tmp/r/"}};
-    EXPECT_EQ(host.systemPath(GetParam().path), GetParam().mapped);
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"/Library/Receipts/A.pkg", "/tmp/r/A.pkg"}, {"/Library/Other", "/tmp/lib/Other"},
+        {"/usr/local/vscanx/dats", "/usr/local/vscanx/dats"}, {"/Library", "/Library"}};
+    for (const auto& [path, mapped] : cases) {
+        EXPECT_EQ(host.systemPath(path), mapped);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Paths, FakeHostPathTest, testing::Values(
-    PathCase{"/Library/Receipts/A.pkg", "/tmp/r/A.pkg"},
-    PathCase{"/Library/Other", "/tmp/lib/Other"},
-    PathCase{"/usr/local/vscanx/dats", "/usr/local/vscanx/dats"},
-    PathCase{"/Library", "/Library"}));
 
 TEST(HostProbe, RealBackendMapsNothing)
 {

@@ -9,6 +9,7 @@
 
 #include "checks/MacOSVersion.h"
 #include "support/CaptureStream.h"
+#include "support/PerformTask.h"
 
 namespace {
 
@@ -36,15 +37,7 @@ TEST_P(MacOSXVersionTaskTest, ComparesTheOSVersion)
     FakeHost host;
     host.productVersion = GetParam().osVersion;
     ScopedHost scope(host);
-    std::unique_ptr<Task> task(TaskFactory::createTask("MacOSXVersionTask"));
-    ASSERT_NE(task, nullptr);
-    std::unique_ptr<TaskResponse> response = performWith(*task, GetParam().attributes);
-    EXPECT_EQ(response->passed, GetParam().passed);
-    EXPECT_EQ(task->passed(), GetParam().passed);
-    EXPECT_EQ(response->code, -1);
-    EXPECT_EQ(response->message, "");
-    EXPECT_EQ(response->detail, "");
-    EXPECT_EQ(task->getType(), "MacOSXVersionTask");
+    EXPECT_EQ(testing_support::performBareCheck("MacOSXVersionTask", GetParam().attributes), GetParam().passed);
 }
 
 std::vector<Task::Attribute> asks(std::string op, std::string major, std::string minor, std::string micro)

@@ -2,34 +2,32 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 using namespace tvpolicy::parse;
 
-struct TextCase {
-    std::string (*parse)(const std::string&);
-    std::string raw;
-    std::string value;
-};
-
-class ProcTextTest : public testing::TestWithParam<TextCase> {};
-
-TEST_P(ProcTextTest, GivesThePlainValue) { EXPECT_EQ(GetParam().parse(GetParam().raw), GetParam().value); }
-
-INSTANTIATE_TEST_SUITE_P(Texts, ProcTextTest, testing::Values(
-    TextCase{&procCommName, "sleep\n", "sleep"},
-    TextCase{&procCommName, "tvpolicy-live-sl\n", "tvpolicy-live-sl"},
-    TextCase{&procCommName, "two words \n", "two words "},
-    TextCase{&procCommName, "odd\nname\n", "odd\nname"},
-    TextCase{&procCommName, "\n", ""},
-    TextCase{&procCommName, "", ""},
-    TextCase{&procExeTarget, "/usr/bin/sleep", "/usr/bin/sleep"},
-    TextCase{&procExeTarget, "/opt/agent/agentd (deleted)", "/opt/agent/agentd"},
-    TextCase{&procExeTarget, " (deleted)", " (deleted)"},
-    TextCase{&procExeTarget, "/bin/a (deleted) b", "/bin/a (deleted) b"},
-    TextCase{&sysfsValue, "LENOVO\n", "LENOVO"},
-    TextCase{&sysfsValue, "To Be Filled By O.E.M.   \n", "To Be Filled By O.E.M."},
-    TextCase{&sysfsValue, " \n", ""},
-    TextCase{&sysfsValue, "", ""}));
+TEST(ProcText, GivesThePlainValue)
+{
+    const std::vector<std::tuple<std::string (*)(const std::string&), std::string, std::string>> cases = {
+        {&procCommName, "sleep\n", "sleep"},
+        {&procCommName, "tvpolicy-live-sl\n", "tvpolicy-live-sl"},
+        {&procCommName, "two words \n", "two words "},
+        {&procCommName, "odd\nname\n", "odd\nname"},
+        {&procCommName, "\n", ""},
+        {&procCommName, "", ""},
+        {&procExeTarget, "/usr/bin/sleep", "/usr/bin/sleep"},
+        {&procExeTarget, "/opt/agent/agentd (deleted)", "/opt/agent/agentd"},
+        {&procExeTarget, " (deleted)", " (deleted)"},
+        {&procExeTarget, "/bin/a (deleted) b", "/bin/a (deleted) b"},
+        {&sysfsValue, "LENOVO\n", "LENOVO"},
+        {&sysfsValue, "To Be Filled By O.E.M.   \n", "To Be Filled By O.E.M."},
+        {&sysfsValue, " \n", ""},
+        {&sysfsValue, "", ""}};
+    for (const auto& [parse, raw, value] : cases) {
+        EXPECT_EQ(parse(raw), value) << raw;
+    }
+}
 
 }  // namespace

@@ -1,13 +1,10 @@
-#include <tvpolicy/checks/ProcessExistsTask.h>
 #include <tvpolicy/checks/ProcessList.h>
 #include <tvpolicy/host/FakeHost.h>
-#include <tvpolicy/policy/TaskFactory.h>
 
 #include <gtest/gtest.h>
 
 #include "support/CaptureStream.h"
-
-#include <memory>
+#include "support/PerformTask.h"
 
 namespace {
 
@@ -32,31 +29,25 @@ FakeHost describedHost()
     return host;
 }
 
-struct NameCase {
-    std::string name;
-    bool running;
-};
-
-class ProcessListNameTest : public testing::TestWithParam<NameCase> {};
-
-TEST_P(ProcessListNameTest, MatchesWholeNamesOfReadableProcesses)
+TEST(ProcessList, MatchesWholeNamesOfReadableProcesses)
 {
     FakeHost host = describedHost();
     ScopedHost scope(host);
-    EXPECT_EQ(ProcessList().isProcessRunning(GetParam().name), GetParam().running) << GetParam().name;
+    const std::vector<std::pair<std::string, bool>> cases = {
+        {"bash", true},                   // base name and short name
+        {"tvpolicy-agent-daemon", true},  // base name, longer than a short name
+        {"tvpolicy-agent-", true},        // the short name the kernel cut
+        {"python3.11", true},             // executable of a renamed process
+        {"renamed-worker", true},         // the name it gave itself
+        {"sshd", false},                  // executable unreadable: skipped entirely
+        {"Bash", false},                  // case-sensitive
+        {"bas", false},                   // no prefixes
+        {"/usr/bin/bash", false},         // a directory part never matches
+        {"", false}};
+    for (const auto& [name, running] : cases) {
+        EXPECT_EQ(ProcessList().isProcessRunning(name), running) << name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, ProcessListNameTest, testing::Values(
-    NameCase{"bash", true},                           // base name and short name
-    NameCase{"tvpolicy-agent-daemon", true},          // base name, longer than a short name
-    NameCase{"tvpolicy-agent-", true},                // the short name the kernel cut
-    NameCase{"python3.11", true},                     // executable of a renamed process
-    NameCase{"renamed-worker", true},                 // the name it gave itself
-    NameCase{"sshd", false},                          // executable unreadable: skipped entirely
-    NameCase{"Bash", false},                          // case-sensitive
-    NameCase{"bas", false},                           // no prefixes
-    NameCase{"/usr/bin/bash", false},                 // a directory part never matches
-    NameCase{"", false}));
 
 TEST(ProcessList, ReadsTheTableAfreshOnEveryQuery)
 {
@@ -93,20 +84,11 @@ TEST_P(ProcessExistsTaskTest, AnswersWithTheFixedTexts)
 {
     FakeHost host = describedHost();
     ScopedHost scope(host);
-    std::unique_ptr<Task> task(TaskFactory::createTask("ProcessExistsTask"));
-    ASSERT_NE(task, nullptr);
-    EXPECT_EQ(task->getType(), "ProcessExistsTask");
-    for (Task::Attribute attribute : GetParam().attributes) {
-        task->setAttribute(&attribute);
-    }
-    std::unique_ptr<TaskResponse> response(task->perform());
-    EXPECT_EQ(response->passed, GetParam().passed);
-    EXPECT_EQ(task->passed(), GetParam().passed);
-    EXPECT_EQ(response->message, GetParam().passed ? "Process Running" : "Process Not Running");
-    EXPECT_EQ(response->detail, "Task performed properly.");
-    EXPECT_EQ(response->code, 0);
-    EXPECT_FALSE(response->skip);
-    EXPECT_EQ(response->failedResponse, nullptr);
+    auto run = testing_support::performTask("ProcessExistsTask", GetParam().attributes);
+    EXPECT_EQ(run.response->passed, GetParam().passed);
+    EXPECT_EQ(run.response->message, GetParam().passed ? "Process Running" : "Process Not Running");
+    EXPECT_EQ(run.response->detail, "Task performed properly.");
+    EXPECT_EQ(run.response->code, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Attributes, ProcessExistsTaskTest, testing::Values(
