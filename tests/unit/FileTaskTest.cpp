@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
-#include <memory>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -33,19 +32,6 @@ void setModified(const stdfs::path& path, std::time_t when)
 {
     struct timespec times[2] = {{when, 0}, {when, 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW), 0);
-}
-
-struct Outcome {
-    bool passed;
-    std::string message;
-};
-
-Outcome runFileTask(const std::vector<Task::Attribute>& attributes)
-{
-    testing_support::TaskRun run = testing_support::performTask("FileTask", attributes);
-    EXPECT_EQ(run.response->code, 0);
-    EXPECT_EQ(run.response->detail, "");
-    return {run.response->passed, run.response->message};
 }
 
 struct FileCase {
@@ -81,9 +67,11 @@ protected:
 TEST_P(FileTaskRules, Perform)
 {
     const FileCase& c = GetParam();
-    Outcome outcome = runFileTask(resolved(c.attributes));
-    EXPECT_EQ(outcome.passed, c.passed);
-    EXPECT_EQ(outcome.message, c.message);
+    testing_support::TaskRun run = testing_support::performTask("FileTask", resolved(c.attributes));
+    EXPECT_EQ(run.response->passed, c.passed);
+    EXPECT_EQ(run.response->message, c.message);
+    EXPECT_EQ(run.response->code, 0);
+    EXPECT_EQ(run.response->detail, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Attributes, FileTaskRules, testing::Values(
