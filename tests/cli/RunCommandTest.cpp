@@ -169,9 +169,6 @@ TEST(RunCommand, MissingSourceIsAUsageError)
     EXPECT_EQ(none.exitCode, 2);
 }
 
-}  // namespace
-
-namespace {
 
 // On a terminal the progress is one bar, redrawn in place and cleared at the end.
 TEST(RunCommand, DrawsABarOnATerminal)

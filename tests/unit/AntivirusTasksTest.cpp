@@ -1,11 +1,11 @@
 #include <tvpolicy/checks/Avast.h>
-#include <tvpolicy/host/FakeHost.h>
 
 #include <gtest/gtest.h>
 
 #include <iostream>
 
 #include "support/CaptureStream.h"
+#include "support/MappedHost.h"
 #include "support/PerformTask.h"
 #include "support/TempDir.h"
 
@@ -23,12 +23,6 @@ std::string database(const std::string& date) { return std::string(241, '\x7f') 
 // The fixed system paths of the checks, mapped into the test's folder.
 class Antivirus : public testing::Test {
 protected:
-    Antivirus() : scoped_(host_)
-    {
-        host_.pathMap["/usr/local/vscanx/dats"] = (tmp.path() / "dats").string();
-        host_.pathMap["/Applications"] = (tmp.path() / "Applications").string();
-    }
-
     void makeDats(const std::vector<std::string>& names)
     {
         for (const std::string& name : names) {
@@ -36,11 +30,8 @@ protected:
         }
     }
 
-    TempDir tmp;
-
-private:
-    tvpolicy::FakeHost host_;
-    tvpolicy::ScopedHost scoped_;
+    testing_support::MappedHost mapped{{{"/usr/local/vscanx/dats", "dats"}, {"/Applications", "Applications"}}};
+    const TempDir& tmp = mapped.tmp;
 };
 
 TEST_F(Antivirus, McAfeeTakesTheLastNameInTextOrder)

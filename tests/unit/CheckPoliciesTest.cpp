@@ -1,7 +1,6 @@
 // The checks of files, application versions and antivirus definitions as a policy meets them:
 // elements parsed into tasks by name, attributes passed through, outcomes and messages kept by
 // their sections.
-#include <tvpolicy/host/FakeHost.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 #include <tvpolicy/policy/TaskResponse.h>
@@ -12,6 +11,7 @@
 #include <iostream>
 
 #include "support/CaptureStream.h"
+#include "support/MappedHost.h"
 #include "support/PolicyText.h"
 #include "support/TempDir.h"
 
@@ -46,11 +46,8 @@ struct SectionOutcome {
 
 class CheckPolicies : public testing::Test {
 protected:
-    CheckPolicies() : scoped_(host_)
+    CheckPolicies()
     {
-        host_.pathMap["/Library/Receipts/"] = (tmp.path() / "receipts").string() + "/";
-        host_.pathMap["/usr/local/vscanx/dats"] = (tmp.path() / "dats").string();
-        host_.pathMap["/Applications"] = (tmp.path() / "Applications").string();
         tmp.write("receipts/Agent.pkg/Contents/Resources/package_version", "Major: 4\nMinor: 2\n");
         tmp.write("dats/5200/avvscan.dat", "");
         tmp.write("dats/999/avvscan.dat", "");
@@ -81,11 +78,9 @@ protected:
         return outcomes;
     }
 
-    TempDir tmp;
-
-private:
-    tvpolicy::FakeHost host_;
-    tvpolicy::ScopedHost scoped_;
+    testing_support::MappedHost mapped{
+        {{"/Library/Receipts/", "receipts/"}, {"/usr/local/vscanx/dats", "dats"}, {"/Applications", "Applications"}}};
+    const TempDir& tmp = mapped.tmp;
 };
 
 std::string section(const std::string& name, const std::string& checks)

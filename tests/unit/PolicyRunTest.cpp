@@ -195,9 +195,6 @@ TEST(OptionRules, AllFailedAndGroupQueries)
     EXPECT_EQ(option->getPrimaryGroup(), "g");
 }
 
-}  // namespace
-
-namespace {
 
 // Progress as a slot sees it at each announcement: options and grouped top-level primaries
 // count their sections after announcing them, ungrouped sections and top-level secondaries do

@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <iostream>
 #include <list>
 #include <regex>
-#include <tuple>
 #include <sstream>
+#include <tuple>
+
+#include "support/CaptureStream.h"
 
 namespace {
 
@@ -163,12 +166,9 @@ TEST(Timestamp, TslogWritesThePrefixAndSkipsDiscardingStreams)
 
 TEST(Debug, WritesOneTimestampedLineAndIgnoresContext)
 {
-    std::ostringstream captured;
-    std::streambuf* saved = std::clog.rdbuf(captured.rdbuf());
+    testing_support::CaptureStream captured(std::clog);
     debug("andTask Passed", "ignored context");
-    std::clog.rdbuf(saved);
-
-    std::string line = captured.str();
+    std::string line = captured.text();
     std::smatch match;
     ASSERT_TRUE(std::regex_match(line, match, std::regex(R"((.*)Debug: andTask Passed\n)")));
     EXPECT_TRUE(std::regex_match(match[1].str(), stampPattern));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/MappedHost.h"
 #include "support/PerformTask.h"
 #include "support/TempDir.h"
 
@@ -26,11 +27,8 @@ class ReceiptRules : public testing::TestWithParam<VersionCase> {};
 TEST_P(ReceiptRules, Perform)
 {
     const VersionCase& c = GetParam();
-    TempDir tmp;
-    tmp.write("receipts/Tool.pkg/Contents/Resources/package_version", c.content);
-    tvpolicy::FakeHost host;
-    host.pathMap["/Library/Receipts/"] = (tmp.path() / "receipts").string() + "/";
-    tvpolicy::ScopedHost scoped(host);
+    testing_support::MappedHost mapped(std::map<std::string, std::string>{{"/Library/Receipts/", "receipts/"}});
+    mapped.tmp.write("receipts/Tool.pkg/Contents/Resources/package_version", c.content);
     std::vector<Task::Attribute> attributes = {{"pkg", "Tool.pkg"}, {"delim", "."}};
     attributes.insert(attributes.end(), c.attributes.begin(), c.attributes.end());
     EXPECT_EQ(performBareCheck("VersionFromReceiptTask", attributes), c.passed);

@@ -127,9 +127,6 @@ TEST(ParseErrorHandler, LogsWhereTheDocumentBreaks)
     EXPECT_NE(log.text().find(" Line: 3Column: "), std::string::npos) << log.text();
 }
 
-}  // namespace
-
-namespace {
 
 TEST(ElementIndex, FindsWhatGetElementsByTagNameNSFinds)
 {
