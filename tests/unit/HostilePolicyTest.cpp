@@ -7,7 +7,6 @@
 #include <sys/resource.h>
 
 #include <iostream>
-#include <memory>
 #include <string>
 
 #include "support/CaptureStream.h"

@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <functional>
 #include <iostream>
-#include <memory>
 
 #include "support/CaptureStream.h"
 #include "support/PolicyText.h"
