@@ -7,11 +7,15 @@
 #include <tvpolicy/checks/Avast.h>
 #include <tvpolicy/checks/File.h>
 #include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "checks/TaskAttributes.h"
 
 bool AvastVersionTask::dummy = TaskFactory::addTask("AvastVersionTask", &AvastVersionTask::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("AvastVersionTask", tvpolicy::checks::versionCheckAttributes({"startPath", "fileName"}));
+}  // namespace
 
 Task* AvastVersionTask::create() { return new AvastVersionTask; }
 

@@ -5,11 +5,15 @@
 
 #include <tvpolicy/checks/DelimVersion.h>
 #include <tvpolicy/checks/File.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "checks/TaskAttributes.h"
 
 bool FileTask::whatever = TaskFactory::addTask("FileTask", &FileTask::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("FileTask", {"fileName", "startPath", "lastModified", "version", "execute", "args", "wait"});
+}  // namespace
 
 Task* FileTask::create() { return new FileTask; }
 

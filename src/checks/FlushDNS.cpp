@@ -1,11 +1,15 @@
 #include <tvpolicy/checks/FlushDNS.h>
 
 #include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "checks/MacOSVersion.h"
 
 bool FlushDNS::dummy = TaskFactory::addTask("FlushDNSTask", &FlushDNS::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("FlushDNSTask", {});
+}  // namespace
 
 Task* FlushDNS::create() { return new FlushDNS; }
 

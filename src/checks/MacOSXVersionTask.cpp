@@ -1,12 +1,18 @@
 #include <tvpolicy/checks/MacOSXVersionTask.h>
 
+#include <utility>
+
 #include <tvpolicy/checks/DelimVersion.h>
 #include <tvpolicy/host/Machine.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "checks/MacOSVersion.h"
 
 bool MacOSXVersionTask::dummy = TaskFactory::addTask("MacOSXVersionTask", &MacOSXVersionTask::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("MacOSXVersionTask", {"major", "minor", "micro", "operation"});
+}  // namespace
 
 Task* MacOSXVersionTask::create() { return new MacOSXVersionTask; }
 
@@ -31,7 +37,9 @@ TaskResponse* MacOSXVersionTask::perform()
     auto* response = new TaskResponse(-1);
     std::string version = tvpolicy::comparableOSVersion(Machine::getOSVersion());
     DelimVersion comparison(operation_);
-    response->passed = comparison.versionAtLeast(major_ + "." + minor_ + "." + micro_, ".", version);
+    std::string required = major_ + "." + minor_ + "." + micro_;
+    response->passed = comparison.versionAtLeast(required, ".", version);
+    recordComparison(std::move(version), std::move(required), operation_);
     passed_ = response->passed;
     return response;
 }

@@ -6,6 +6,7 @@
 
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "checks/DirectoryStream.h"
@@ -13,6 +14,9 @@
 
 bool McAfeeVirusScanVersionTask::dummy =
     TaskFactory::addTask("McAfeeVirusScanVersionTask", &McAfeeVirusScanVersionTask::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("McAfeeVirusScanVersionTask", tvpolicy::checks::versionCheckAttributes({}));
+}  // namespace
 
 Task* McAfeeVirusScanVersionTask::create() { return new McAfeeVirusScanVersionTask; }
 

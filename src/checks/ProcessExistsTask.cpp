@@ -1,9 +1,13 @@
 #include <tvpolicy/checks/ProcessExistsTask.h>
 
 #include <tvpolicy/checks/ProcessList.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 bool ProcessExistsTask::whatever = TaskFactory::addTask("ProcessExistsTask", &ProcessExistsTask::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("ProcessExistsTask", {"procName"});
+}  // namespace
 
 Task* ProcessExistsTask::create() { return new ProcessExistsTask; }
 

@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <tvpolicy/policy/Task.h>
 
@@ -19,6 +20,14 @@ inline void assignAttribute(const Task::Attribute& attribute,
             return;
         }
     }
+}
+
+/// The attributes a version check reads: its kind's own, then "required", "delim" and
+/// "operation".
+inline std::vector<std::string> versionCheckAttributes(std::vector<std::string> own)
+{
+    own.insert(own.end(), {"required", "delim", "operation"});
+    return own;
 }
 
 }  // namespace tvpolicy::checks

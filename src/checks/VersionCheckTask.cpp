@@ -1,5 +1,7 @@
 #include <tvpolicy/checks/VersionCheckTask.h>
 
+#include <utility>
+
 #include <tvpolicy/checks/DelimVersion.h>
 
 #include "checks/TaskAttributes.h"
@@ -21,7 +23,9 @@ TaskResponse* VersionCheckTask::perform()
 {
     auto* response = new TaskResponse(-1);
     DelimVersion comparer(operation_);
-    response->passed = comparer.versionAtLeast(required_, delim_, foundVersion());
+    std::string found = foundVersion();
+    response->passed = comparer.versionAtLeast(required_, delim_, found);
+    recordComparison(std::move(found), required_, operation_);
     passed_ = response->passed;
     return response;
 }

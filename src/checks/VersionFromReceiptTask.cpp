@@ -5,11 +5,15 @@
 #include <sstream>
 
 #include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "checks/TaskAttributes.h"
 
 bool VersionFromReceiptTask::dummy = TaskFactory::addTask("VersionFromReceiptTask", &VersionFromReceiptTask::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("VersionFromReceiptTask", tvpolicy::checks::versionCheckAttributes({"pkg"}));
+}  // namespace
 
 Task* VersionFromReceiptTask::create() { return new VersionFromReceiptTask; }
 

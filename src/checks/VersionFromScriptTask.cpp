@@ -1,11 +1,15 @@
 #include <tvpolicy/checks/VersionFromScriptTask.h>
 
 #include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "checks/TaskAttributes.h"
 
 bool VersionFromScriptTask::dummy = TaskFactory::addTask("VersionFromScriptTask", &VersionFromScriptTask::create);
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("VersionFromScriptTask", tvpolicy::checks::versionCheckAttributes({"script"}));
+}  // namespace
 
 Task* VersionFromScriptTask::create() { return new VersionFromScriptTask; }
 

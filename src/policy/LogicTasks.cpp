@@ -13,6 +13,7 @@
 
 #include <tvpolicy/host/Timestamp.h>
 #include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 bool andTask::dummy = TaskFactory::addTask("andTask", &andTask::create);
@@ -21,6 +22,16 @@ bool notTask::dummy = TaskFactory::addTask("notTask", &notTask::create);
 bool orTask::dummy = TaskFactory::addTask("orTask", &orTask::create);
 bool trueTask::dummy = TaskFactory::addTask("trueTask", &trueTask::create);
 bool ValidateTask::dummy = TaskFactory::addTask("ValidateTask", &ValidateTask::create);
+
+// What each logic kind reads from its element; the combinators without attributes read none.
+namespace {
+const bool described = tvpolicy::TaskCatalog::describe("andTask", {"skip", "skipEmpty"}) &&
+                       tvpolicy::TaskCatalog::describe("falseTask", {}) &&
+                       tvpolicy::TaskCatalog::describe("notTask", {}) &&
+                       tvpolicy::TaskCatalog::describe("orTask", {}) &&
+                       tvpolicy::TaskCatalog::describe("trueTask", {}) &&
+                       tvpolicy::TaskCatalog::describe("ValidateTask", {"status"});
+}  // namespace
 
 namespace {
 

@@ -70,7 +70,7 @@ bool Option::test()
             testGroup(key, *section, tvpolicy::policy::membersOf(groups, section->getGroup()), warnings, allSkipped);
             continue;
         }
-        announce(announcedName(key));
+        announce(announcedName(key), section);
         bool passed = section->test();
         if (section->getStatus() == 5) {
             ++warnings;
@@ -105,7 +105,7 @@ void Option::testGroup(const std::string& key, Section& primarySection,
 {
     const std::string group = primarySection.getGroup();
     const std::string where = " section '" + primarySection.getName() + "' for group '" + group + "'";
-    announce(announcedName(key));
+    announce(announcedName(key), &primarySection);
     countProgress();
     trace("--Start primary" + where);
     bool primaryPassed = primarySection.test();
@@ -121,11 +121,11 @@ void Option::testGroup(const std::string& key, Section& primarySection,
     for (const auto& [otherKey, secondary] : secondaries) {
         if (!primaryPassed || primarySection.isSkipped()) {
             trace("\tSkipping evaluation of " + secondary->getName());
-            announce("");
+            announce("", secondary);
             countProgress();
             continue;
         }
-        announce(announcedName(otherKey));
+        announce(announcedName(otherKey), secondary);
         countProgress();
         trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() + "' for group '" +
               group + "'");

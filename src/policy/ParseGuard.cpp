@@ -27,6 +27,14 @@ void ParseGuard::leave()
     }
 }
 
+SourceLocation ParseGuard::location() const
+{
+    if (locator_ == nullptr) {
+        return {};
+    }
+    return {static_cast<std::uint64_t>(locator_->getLineNumber()), static_cast<std::uint64_t>(locator_->getColumnNumber())};
+}
+
 SAXParseException ParseGuard::refusalError() const
 {
     XMLCh* message = XMLString::transcode(refusal_.c_str());

@@ -6,6 +6,8 @@
 #include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/sax2/Attributes.hpp>
 
+#include <tvpolicy/policy/TaskSource.h>
+
 namespace tvpolicy::policy {
 
 /// Bounds what one policy or section document may build, shared by the handlers that take the
@@ -27,6 +29,8 @@ public:
     xercesc::SAXParseException refusalError() const;
 
     void setLocator(const xercesc::Locator* locator) { locator_ = locator; }
+    /// Where the reader stands now; zeros without a locator.
+    SourceLocation location() const;
 
 private:
     unsigned depth_ = 0;

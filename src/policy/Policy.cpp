@@ -103,7 +103,12 @@ bool Policy::parse()
 
 void Policy::connect(std::function<void(std::shared_ptr<std::string>)> slot) { signal.connect(std::move(slot)); }
 
-void Policy::announce(std::string sectionName) { signal.fire(std::make_shared<std::string>(std::move(sectionName))); }
+void Policy::announce(std::string sectionName, const Section* section)
+{
+    announcedSection = section;
+    signal.fire(std::make_shared<std::string>(std::move(sectionName)));
+    announcedSection = nullptr;
+}
 
 void Policy::store(std::map<std::string, Section*>& into, const std::string& key, Section* item)
 {
@@ -185,6 +190,9 @@ void Policy::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qna
     std::string element = tvpolicy::xml::elementName(localname, qname, fromQName);
     tvi::tslog(std::clog) << (fromQName ? "startElement qname = " : "startElement localname = ") << element << std::endl;
     currentElement = element;
+    if (rootElement.empty()) {
+        rootElement = element;
+    }
     if (element == "auditOnly") {
         auditOnly = true;
     } else if (element == "registerFailedRogue") {
@@ -227,6 +235,7 @@ void Policy::startOption(const Attributes& attributes)
 {
     auto* option = new Option(this);
     owned.insert(option);
+    option->setLocation(guard != nullptr ? guard->location() : tvpolicy::SourceLocation{});
     currentOption = option;
     std::string optionName, instructions, preferred;
     for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
@@ -267,6 +276,7 @@ void Policy::startInclude(const Attributes& attributes)
         return;
     }
     auto* section = new Section(url);
+    section->setLocation(guard != nullptr ? guard->location() : tvpolicy::SourceLocation{});
     if (currentOption != nullptr) {
         currentOption->addSection(id, section);
     } else {
@@ -278,6 +288,7 @@ void Policy::startSection(const Attributes& attributes)
 {
     ++sectionCount;
     auto* section = new Section(this);
+    section->setLocation(guard != nullptr ? guard->location() : tvpolicy::SourceLocation{});
     section->setCustomScan(false);
     section->setWarning(false);
     std::string sectionName, instructions, group;
@@ -389,6 +400,11 @@ void Policy::error(const SAXParseException& exception) { tvpolicy::policy::print
 void Policy::fatalError(const SAXParseException& exception)
 {
     fatalParseError = true;
+    if (fatalErrorReason.empty()) {
+        fatalErrorReason = utf8(exception.getMessage());
+        fatalErrorLocation = {static_cast<std::uint64_t>(exception.getLineNumber()),
+                              static_cast<std::uint64_t>(exception.getColumnNumber())};
+    }
     char where[32];
     std::snprintf(where, sizeof where, "line: %d", static_cast<int>(exception.getLineNumber()));
     if (!showErrors) {

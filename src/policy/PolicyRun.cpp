@@ -39,7 +39,7 @@ bool Policy::run()
                 result = false;
             }
         } else if (item->getGroup().empty()) {
-            announce(announcedName(key));
+            announce(announcedName(key), item);
             if (!item->test()) {
                 result = false;
             }
@@ -60,7 +60,7 @@ void Policy::runGroup(const std::string& key, Section& section,
     const std::string kind = section.isPrimary() ? "primary" : "secondary";
     const std::string where = " section '" + section.getName() + "' for group '" + group + "'";
     debug("--Start Custom Scan " + kind + where);
-    announce(announcedName(key));
+    announce(announcedName(key), &section);
     ++progress;
     bool passed = section.test();
     if (!passed && !section.isSkipped()) {
@@ -69,10 +69,10 @@ void Policy::runGroup(const std::string& key, Section& section,
     for (const auto& [otherKey, other] : secondaries) {
         if (!passed || section.isSkipped()) {
             debug("\tSkipping evaluation of " + other->getName());
-            announce("");
+            announce("", other);
             continue;
         }
-        announce(announcedName(otherKey));
+        announce(announcedName(otherKey), other);
         debug("--Primary Passed and Section Not Skipped... Starting section '" + other->getName() + "' for group '" +
               group + "'");
         if (!other->test() && !other->isSkipped()) {

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <mutex>
+#include <utility>
 
 #include <xercesc/framework/URLInputSource.hpp>
 #include <xercesc/util/XMLException.hpp>
@@ -13,6 +15,7 @@
 #include <tvpolicy/host/Timestamp.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Task.h>
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 #include <tvpolicy/policy/TaskResponse.h>
 
@@ -94,14 +97,25 @@ void Section::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qn
         inHelp = true;
         return;
     }
-    Task* task = TaskFactory::createTask(element + "Task");
+    tvpolicy::SourceLocation where = guard != nullptr ? guard->location() : tvpolicy::SourceLocation{};
+    std::string kind = element + "Task";
+    Task* task = TaskFactory::createTask(kind);
     if (task == nullptr) {
+        ignored.push_back({element, where});
         return;
     }
+    // A fresh record: a task may take the address of one released earlier in this parse.
+    tvpolicy::TaskSource& source = sources[task] = tvpolicy::TaskSource{};
+    source.element = element;
+    source.location = where;
     for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
         Task::Attribute attribute{tvpolicy::xml::elementName(attributes.getLocalName(i), attributes.getQName(i), fromQName),
                                   tvpolicy::xml::utf8(attributes.getValue(i))};
         task->setAttribute(&attribute);
+        if (!tvpolicy::TaskCatalog::reads(kind, attribute.first)) {
+            source.unknownAttributes.push_back(attribute.first);
+        }
+        source.attributes.push_back(std::move(attribute));
     }
     if (isComposite(element)) {
         taskStack.push(task);
@@ -145,8 +159,52 @@ void Section::warning(const SAXParseException& exception) { tvpolicy::policy::pr
 
 void Section::error(const SAXParseException& exception) { tvpolicy::policy::printParseNotice("err", exception); }
 
+namespace {
+
+std::mutex readFailureMutex;
+Section::ReadFailureHandler& readFailureHandler()
+{
+    static Section::ReadFailureHandler handler;
+    return handler;
+}
+
+// The reader's words and position as one line for a person.
+std::string describeFailure(const SAXParseException& exception)
+{
+    std::string reason = tvpolicy::xml::utf8(exception.getMessage());
+    if (reason.empty()) {
+        reason = "the section could not be read";
+    }
+    if (exception.getLineNumber() > 0) {
+        reason += " at line " + std::to_string(exception.getLineNumber()) + ", column " +
+                  std::to_string(exception.getColumnNumber());
+    }
+    return reason;
+}
+
+SAXParseException failureOf(const std::string& why)
+{
+    return SAXParseException(tvpolicy::xml::Utf16(why).get(), nullptr, nullptr, 0, 0);
+}
+
+}  // namespace
+
+void Section::setReadFailureHandler(ReadFailureHandler handler)
+{
+    std::lock_guard<std::mutex> lock(readFailureMutex);
+    readFailureHandler() = std::move(handler);
+}
+
 void Section::fatalError(const SAXParseException& exception)
 {
+    ReadFailureHandler handler;
+    {
+        std::lock_guard<std::mutex> lock(readFailureMutex);
+        handler = readFailureHandler();
+    }
+    if (handler) {
+        handler(url, describeFailure(exception));
+    }
     // A section that cannot be read stops the agent.
     std::printf("fatal error, line %d\n", static_cast<int>(exception.getLineNumber()));
     std::printf("column: %d\n", static_cast<int>(exception.getColumnNumber()));
@@ -156,6 +214,12 @@ void Section::fatalError(const SAXParseException& exception)
 }
 
 bool Section::isAllProhibited() { return false; }
+
+const tvpolicy::TaskSource* Section::getTaskSource(const Task* task) const
+{
+    auto found = sources.find(task);
+    return found != sources.end() ? &found->second : nullptr;
+}
 
 std::string Section::getType() { return "Section"; }
 
@@ -227,7 +291,7 @@ void Section::parse(SAX2XMLReader* reader)
     reader->setErrorHandler(this);
     if (!isWebUrl(url)) {
         tvi::tslog(std::cout) << "Section: only http and https addresses are read, not '" << url << "'" << std::endl;
-        fatalError(SAXParseException(nullptr, nullptr, nullptr, 0, 0));
+        fatalError(failureOf("only http and https addresses are read"));
     }
     try {
         URLInputSource source(tvpolicy::xml::Utf16(url).get());
@@ -239,10 +303,10 @@ void Section::parse(SAX2XMLReader* reader)
     guard = nullptr;
 }
 
-void Section::announce(const std::string& sectionName)
+void Section::announce(const std::string& sectionName, const Section* section)
 {
     if (policy != nullptr) {
-        policy->announce(sectionName);
+        policy->announce(sectionName, section);
     }
 }
 

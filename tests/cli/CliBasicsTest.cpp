@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
+#include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
+#include <tvpolicy/policy/TaskMap.h>
 
 #include "support/RunCli.h"
 #include "support/TempDir.h"
@@ -10,14 +14,24 @@ using testing_support::runCli;
 
 namespace {
 
-TEST(Cli, TasksPrintsTheRegistry)
+// Every registered kind, in registration order, as its element with the attributes it reads.
+TEST(Cli, TasksListsEveryElementWithItsAttributes)
 {
-    auto result = runCli({"tasks"});
-    EXPECT_EQ(result.exitCode, 0) << result.err;
-    testing::internal::CaptureStdout();
-    TaskFactory::dump();
-    EXPECT_EQ(result.out, testing::internal::GetCapturedStdout());
-    EXPECT_EQ(result.err, "");
+    auto json = runCli({"tasks", "--json"});
+    ASSERT_EQ(json.exitCode, 0) << json.err;
+    nlohmann::json kinds = nlohmann::json::parse(json.out);
+    const TaskMap& map = TaskFactory::getMap();
+    ASSERT_EQ(kinds.size(), map.size());
+    for (std::size_t i = 0; i < map.size(); ++i) {
+        EXPECT_EQ(kinds[i]["kind"], map.entry(i).name);
+        const std::vector<std::string>* attributes = tvpolicy::TaskCatalog::attributesOf(map.entry(i).name);
+        ASSERT_NE(attributes, nullptr) << map.entry(i).name << " describes no attributes";
+        EXPECT_EQ(kinds[i]["attributes"], *attributes);
+    }
+    auto text = runCli({"tasks"});
+    EXPECT_NE(text.out.find("\nFile                    fileName startPath lastModified version execute args wait\n"),
+              std::string::npos)
+        << text.out;
 }
 
 struct UsageCase {
@@ -43,7 +57,15 @@ INSTANTIATE_TEST_SUITE_P(Usage, CliUsageTest, testing::Values(
     UsageCase{{"--version"}, 0, "tvpolicy ", ""},
     UsageCase{{}, 2, "", "subcommand"},
     UsageCase{{"nosuchcommand"}, 2, "", "nosuchcommand"},
-    UsageCase{{"--log", "/nonexistent-dir/x.log", "tasks"}, 2, "", "cannot open log file"}));
+    UsageCase{{"--log", "/nonexistent-dir/x.log", "tasks"}, 2, "", "cannot open log file"},
+    UsageCase{{"tasks", "-v"}, 0, "ProcessExists", ""},  // global options after the subcommand
+    UsageCase{{"compare", "1", "gte", "1", "--log", "/nonexistent-dir/x.log"}, 2, "", "cannot open log file"},
+    UsageCase{{"-v", "--log", "/tmp/x.log", "tasks"}, 2, "", "excludes"},
+    UsageCase{{"help", "run"}, 0, "--strict", ""},
+    UsageCase{{"help"}, 0, "Subcommands:", ""},
+    UsageCase{{"help", "nosuch"}, 2, "", "no subcommand 'nosuch'"},
+    UsageCase{{"monitor", "x.xml", "--count", "0"}, 2, "", "--count: must be at least 1"},
+    UsageCase{{"compare", "--help"}, 0, "Default: none, as in a policy's version check", ""}));
 
 TEST(Cli, LogFileTakesTheLibrarysLinesAndAppends)
 {

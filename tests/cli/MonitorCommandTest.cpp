@@ -77,11 +77,21 @@ TEST_P(MonitorUsageTest, ExitsTwoWithAMessage)
 }
 
 INSTANTIATE_TEST_SUITE_P(Usage, MonitorUsageTest, testing::Values(
-    UsageCase{{"monitor", "/no/such/monitors.xml"}, "", "cannot read /no/such/monitors.xml"},
+    UsageCase{{"monitor", "/no/such/monitors.xml"}, "", "cannot read '/no/such/monitors.xml'"},
     UsageCase{{"monitor", "--once"}, "<m><monitor id='lower-case'/></m>", "holds no Monitor element"},
-    UsageCase{{"monitor", "--once"}, "not xml", "holds no Monitor element"},
+    UsageCase{{"monitor", "--once"}, "not xml", "not XML: "},
+    UsageCase{{"monitor", "--once"}, "<monitors><Monitor id='a' period='5'><true/></Monitor>", "not XML: "},
+    UsageCase{{"monitor", "--once"}, " \n", "holds only white space"},
     UsageCase{{"monitor", "--once", "--count", "2"}, "<Monitor id='a'/>", "excludes"},
-    UsageCase{{"monitor", "--count", "0"}, "<Monitor id='a'/>", "count"}));
+    UsageCase{{"monitor", "--count", "0"}, "<Monitor id='a'/>", "--count: must be at least 1"}));
+
+// "-" reads the monitors from standard input.
+TEST(MonitorCommand, ReadsStandardInput)
+{
+    auto result = runCli({"monitor", "--once", "-"}, "<monitors><Monitor id='a' period='5'><true/></Monitor></monitors>");
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_NE(result.out.find("<status>true</status>"), std::string::npos) << result.out;
+}
 
 class MonitorSignalTest : public testing::TestWithParam<const char*> {};
 

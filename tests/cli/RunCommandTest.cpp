@@ -16,6 +16,24 @@ using testing_support::runCli;
 
 std::string example(const std::string& name) { return std::string(TVPOLICY_SOURCE_DIR) + "/examples/" + name; }
 
+// Standard error less the warning about a partial process table, which depends on who runs
+// the test and what else runs on the machine.
+std::string withoutHostWarnings(const std::string& err)
+{
+    std::string kept;
+    std::size_t start = 0;
+    while (start < err.size()) {
+        std::size_t end = err.find('\n', start);
+        end = end == std::string::npos ? err.size() : end + 1;
+        std::string line = err.substr(start, end - start);
+        if (line.find("processes could not be read fully") == std::string::npos) {
+            kept += line;
+        }
+        start = end;
+    }
+    return kept;
+}
+
 struct ExampleCase {
     std::string file;
     int exitCode;
@@ -35,7 +53,7 @@ TEST_P(RunExampleTest, ReportsAndExitsByTheResult)
     for (const std::string& line : c.progressLines) {
         expectedErr += line + "\n";
     }
-    EXPECT_EQ(result.err, expectedErr);
+    EXPECT_EQ(withoutHostWarnings(result.err), expectedErr);
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, RunExampleTest, testing::Values(
@@ -45,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(Examples, RunExampleTest, testing::Values(
                 {"[1/4] Account database present", "[2/4] No plain account database", "[3/4] Endpoint antivirus installed",
                  "[4/4] Remote shell server"}},
     ExampleCase{"options.xml", 0, "Policy \"Antivirus choice\": PASS (4 passed, 1 failed, 0 warning, 1 skipped of 6 sections)\n",
-                {"[1/6] Vendor antivirus", "[2/6] (section passed over)", "[3/6] Built-in protection",
+                {"[1/6] Vendor antivirus", "[2/6] (passed over) Vendor antivirus definitions", "[3/6] Built-in protection",
                  "[4/6] Built-in protection enabled", "[5/6] Agent", "[6/6] Agent configuration"}},
     ExampleCase{"file-and-version-checks.xml", 0,
                 "Policy \"File and version checks\": PASS (3 passed, 0 failed, 0 warning, 0 skipped of 3 sections)\n",
@@ -57,7 +75,7 @@ TEST(RunCommand, FailedSectionsShowHelpAndInstructions)
 {
     auto result = runCli({"run", example("noncompliant.xml")});
     EXPECT_NE(result.out.find("Section \"Endpoint antivirus installed\": warning\n"
-                              "    FileTask: failed - FileTask/File Not Found\n"
+                              "    File fileName=\"endpoint-av.conf\" startPath=\"/etc\": failed - FileTask/File Not Found\n"
                               "    help: Install the endpoint antivirus package.\n"
                               "    instructions: http://nac.example.test/help/antivirus\n"),
               std::string::npos)
@@ -125,41 +143,6 @@ TEST(RunCommand, ReadsStandardInput)
     EXPECT_EQ(result.err, "[1/1] s\n");
 }
 
-struct UnreadableCase {
-    std::string title;
-    std::string text;
-    std::string error;
-};
-
-class UnreadablePolicyTest : public testing::TestWithParam<UnreadableCase> {};
-
-TEST_P(UnreadablePolicyTest, ExitsTwoWithTheFatalErrorMessage)
-{
-    testing_support::TempDir dir;
-    auto path = dir.write("policy.xml", GetParam().text);
-    auto result = runCli({"run", path.string()});
-    EXPECT_EQ(result.exitCode, 2);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err, "tvpolicy run: " + GetParam().error + "\n");
-}
-
-const std::string unreadable = "Unable to read policy.\n\nPlease check your personal firewall settings and try again.";
-
-std::string truncatedExample()
-{
-    std::string text = testing_support::readFile(example("compliant.xml"));
-    return text.substr(0, text.find("<section name=\"Policy logic\""));
-}
-
-INSTANTIATE_TEST_SUITE_P(Policies, UnreadablePolicyTest, testing::Values(
-    UnreadableCase{"Truncated", truncatedExample(), "A configuration error has occurred at line: 22"},
-    UnreadableCase{"Empty", "", unreadable},
-    // Trimmed to its last ">", the page is one line: the document could not be read at all.
-    UnreadableCase{"ErrorPage", "<html><body>502 Bad Gateway</body>\n</html", unreadable},
-    UnreadableCase{"BrokenOnALaterLine", "<policy>\n<section name=\"s\">\n</policy>", "A configuration error has occurred at line: 3"},
-    UnreadableCase{"NestedTooDeep", "<policy>\n<section name=\"s\">\n" + testing_support::nested("and", 200000, "") + "</section></policy>", "A configuration error has occurred at line: 3"}),
-    [](const testing::TestParamInfo<UnreadableCase>& info) { return info.param.title; });
-
 TEST(RunCommand, MissingSourceIsAUsageError)
 {
     auto missing = runCli({"run", "/nonexistent/policy.xml"});
@@ -169,21 +152,5 @@ TEST(RunCommand, MissingSourceIsAUsageError)
     EXPECT_EQ(none.exitCode, 2);
 }
 
-
-// On a terminal the progress is one bar, redrawn in place and cleared at the end.
-TEST(RunCommand, DrawsABarOnATerminal)
-{
-    if (std::system("command -v script >/dev/null 2>&1") != 0) {
-        GTEST_SKIP() << "the script program (util-linux) is not installed, so no terminal can be given";
-    }
-    std::string command = std::string(TVPOLICY_CLI) + " run " + example("options.xml") + " >/dev/null";
-    auto result = testing_support::runProgram({"script", "-qec", command, "/dev/null"});
-    EXPECT_EQ(result.exitCode, 0) << result.err;
-    EXPECT_NE(result.out.find("\r[#####-------------------------] 1/6 Vendor antivirus\033[K"), std::string::npos)
-        << result.out;
-    EXPECT_NE(result.out.find("\r[##############################] 6/6 Agent configuration\033[K\r\033[K"),
-              std::string::npos);
-    EXPECT_EQ(result.out.find("[1/6]"), std::string::npos);  // no plain lines
-}
 
 }  // namespace

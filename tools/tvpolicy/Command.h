@@ -32,6 +32,8 @@ bool registerCommand(Command command);
 std::vector<Command> registeredCommands();
 
 /// Exit statuses shared by the subcommands.
-enum ExitStatus { exitPassed = 0, exitFailed = 1, exitUsage = 2 };
+/// 0 passed, 1 failed, 2 a usage error or a document that could not be read (or results that
+/// could not be written), 3 a resource the document names could not be fetched.
+enum ExitStatus { exitPassed = 0, exitFailed = 1, exitUsage = 2, exitUnfetched = 3 };
 
 }  // namespace cli

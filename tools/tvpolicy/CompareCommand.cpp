@@ -11,7 +11,7 @@ struct CompareOptions {
     std::string system;
     std::string op;
     std::string requested;
-    std::string delim = ".";
+    std::string delim;  // what a version check without "delim" uses
     bool normalize = false;
     std::string order;
 };
@@ -22,7 +22,10 @@ cli::CommandAction setupCompare(CLI::App& app)
     app.add_option("SYSTEM", options->system, "The version found on the computer")->required();
     app.add_option("OPERATOR", options->op, "gt, gte, eq, lte or lt (any other text means gte)")->required();
     app.add_option("REQUESTED", options->requested, "The version the policy asks for")->required();
-    app.add_option("--delim", options->delim, "Delimiter characters, each one splitting words")->capture_default_str();
+    app.add_option("--delim", options->delim,
+                   "Delimiter characters, each one splitting words. Default: none, as in a policy's version "
+                   "check without a delim attribute (then the versions are compared as whole words); pass "
+                   "--delim . for dotted versions");
     app.add_flag("--normalize", options->normalize, "Keep only digits and delimiters of SYSTEM before comparing");
     CLI::Option* order = app.add_option("--order", options->order, "Rearrange SYSTEM's words first, by index: \"2 1 0\"");
     return [options, order](cli::Console& console) {

@@ -11,11 +11,9 @@ namespace cli {
 
 namespace {
 
-int duplicate(int fd)
-{
-    int copy = ::fcntl(fd, F_DUPFD_CLOEXEC, 3);
-    return copy >= 0 ? copy : ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-}
+// A copy of `fd` above the standard descriptors; -1 when `fd` is closed, so that writes to it
+// fail (and are reported) instead of landing wherever a later open puts its descriptor.
+int duplicate(int fd) { return ::fcntl(fd, F_DUPFD_CLOEXEC, 3); }
 
 }  // namespace
 
@@ -45,7 +43,16 @@ Console::~Console()
     ::dup2(realErr_.get(), STDERR_FILENO);
 }
 
-bool Console::errIsTerminal() const { return ::isatty(realErr_.get()) == 1; }
+bool Console::outDelivered(std::string& why)
+{
+    out_.flush();
+    int error = outBuf_.firstError();
+    if (error == 0 && out_) {
+        return true;
+    }
+    why = error == EBADF ? "it is closed" : std::strerror(error != 0 ? error : EIO);
+    return false;
+}
 
 void Console::routeLibraryTo(int fd, bool discard)
 {

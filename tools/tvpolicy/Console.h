@@ -24,7 +24,13 @@ public:
 
     std::ostream& out() { return out_; }
     std::ostream& err() { return err_; }
-    bool errIsTerminal() const;
+    /// The descriptor behind err(), for writes that cannot go through a stream (a signal handler).
+    int errFd() const { return realErr_.get(); }
+    /// The descriptor behind out() (the person's standard output; -1 when it was closed).
+    int outFd() const { return realOut_.get(); }
+    /// Flushes out(); false, with `why` set, when anything written to it was lost (a full disk,
+    /// a closed standard output).
+    bool outDelivered(std::string& why);
 
     /// The library's output is discarded (the default).
     void hideLibraryOutput();

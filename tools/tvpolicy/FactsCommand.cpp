@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -20,6 +21,8 @@ struct Fact {
 
 std::vector<Fact> gatherFacts()
 {
+    auto processes = tvpolicy::currentHost().processTable();
+    auto withheld = std::count_if(processes.begin(), processes.end(), [](const auto& p) { return p.executableWithheld; });
     return {
         {"osVersion", "OS version", Machine::getOSVersion()},
         {"os", "OS", Machine::getOSString()},
@@ -28,7 +31,9 @@ std::vector<Fact> gatherFacts()
         {"hardware", "Hardware", Machine::getHardwareDesc()},
         {"uuid", "UUID", Machine::getSystemUUID()},
         {"serialNumber", "Serial number", Machine::getSystemSerialNumber()},
-        {"processCount", "Processes", tvpolicy::currentHost().processTable().size()},
+        {"processCount", "Processes", processes.size()},
+        // Processes whose executable path this user may not read: process checks may miss them.
+        {"processesWithheld", "Not readable", withheld},
     };
 }
 

@@ -18,6 +18,9 @@ bool FdStreamBuf::drain()
             if (errno == EINTR) {
                 continue;
             }
+            if (firstError_ == 0) {
+                firstError_ = errno;
+            }
             setp(buffer_.data(), buffer_.data() + buffer_.size());
             return false;
         }

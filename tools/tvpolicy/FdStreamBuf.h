@@ -13,6 +13,9 @@ public:
     FdStreamBuf(const FdStreamBuf&) = delete;
     FdStreamBuf& operator=(const FdStreamBuf&) = delete;
 
+    /// The errno of the first write that failed; 0 while every write went through.
+    int firstError() const { return firstError_; }
+
 protected:
     int_type overflow(int_type c) override;
     int sync() override;
@@ -21,6 +24,7 @@ private:
     bool drain();
 
     int fd_;
+    int firstError_ = 0;
     std::array<char, 4096> buffer_{};
 };
 

@@ -1,6 +1,7 @@
 // tvpolicy monitor FILE [--once] [--count N]: runs the monitors of a document as the agent
 // does, each when its next run time has come, printing every status XML as one line.
 #include <ctime>
+#include <exception>
 #include <list>
 #include <memory>
 #include <optional>
@@ -102,14 +103,25 @@ cli::CommandAction setupMonitor(CLI::App& app)
         long count = 0;
     };
     auto options = std::make_shared<Options>();
-    app.add_option("FILE", options->file, "A document of Monitor elements")->required();
+    app.add_option("FILE", options->file, "A document of Monitor elements, or - for standard input")->required();
     auto* once = app.add_flag("--once", options->once,
                               "Run every monitor once; exit 0 only when all report true");
-    app.add_option("--count", options->count, "Stop after N runs in all")
-        ->check(CLI::PositiveNumber)->excludes(once);
+    const CLI::Validator atLeastOne(
+        [](std::string& value) {
+            try {
+                std::size_t used = 0;
+                long number = std::stol(value, &used);
+                return used == value.size() && number >= 1 ? std::string() : std::string("must be at least 1");
+            } catch (const std::exception&) {
+                return std::string("must be at least 1");
+            }
+        },
+        "N");
+    app.add_option("--count", options->count, "Stop after N runs in all (N at least 1)")
+        ->check(atLeastOne)->excludes(once);
 
     return [options](cli::Console& console) -> int {
-        std::optional<std::string> text = cli::loadDocument(console, "monitor", options->file);
+        std::optional<std::string> text = cli::loadXmlDocument(console, "monitor", options->file);
         if (!text) {
             return cli::exitUsage;
         }

@@ -6,17 +6,30 @@
 
 #include <nlohmann/json.hpp>
 
+#include "PolicyNotices.h"
+
 class Policy;
 
 namespace cli {
 
 /// The outcome of a policy run as one JSON document (the schema is in the README): every
-/// top-level item with its sections, statuses, task outcomes, help and instructions; counts
-/// and the overall result.
-nlohmann::ordered_json reportPolicy(Policy& policy, bool passed, unsigned announced);
+/// top-level item with its sections, statuses and checks (each with its element, attributes
+/// and line, and for version checks the versions compared), help and instructions; the
+/// policy's switches, the warnings, counts and the overall result.
+nlohmann::ordered_json reportPolicy(Policy& policy, bool passed, unsigned announced,
+                                    const std::vector<Notice>& notices);
 
-/// The same report for a person: one block per item, then PASS or FAIL with the counts.
-void printReport(const nlohmann::ordered_json& report, std::ostream& out);
+/// How the report is shown to a person.
+struct TextStyle {
+    bool colour = false;
+};
+
+/// The same report for a person: one block per item, the switches, then PASS or FAIL with the
+/// counts and what was not evaluated.
+void printReport(const nlohmann::ordered_json& report, std::ostream& out, const TextStyle& style);
+
+/// The last line of printReport: Policy "name": PASS (... of N sections)
+std::string verdictLine(const nlohmann::ordered_json& report, const TextStyle& style);
 
 /// The words for a section status number.
 std::string statusText(unsigned status);

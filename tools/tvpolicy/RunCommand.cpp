@@ -1,58 +1,57 @@
+// tvpolicy run SOURCE: evaluates a policy on this computer and reports every item, what was
+// not evaluated, and the verdict.
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <iostream>
-#include <iterator>
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
 #include <memory>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 #include <xercesc/sax2/XMLReaderFactory.hpp>
 
-#include <tvpolicy/policy/Option.h>
+#include <tvpolicy/host/Machine.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
+#include <tvpolicy/version.h>
 
 #include "Command.h"
+#include "DocumentFile.h"
+#include "PolicyNotices.h"
 #include "PolicyReport.h"
+#include "ResultsFile.h"
 #include "RunProgress.h"
+#include "Sha256.h"
 #include "TeeStreamBuf.h"
+#include "TerminalText.h"
 
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 struct RunOptions {
     std::string source;
     bool json = false;
     bool trace = false;
+    bool strict = false;
+    bool quiet = false;
+    bool noColor = false;
+    bool enforce = false;
+    std::string output;
+    std::string format;
+    std::size_t maxSizeMB = cli::defaultMaxDocumentMB;
 };
-
-bool readSource(const std::string& source, std::string& text, std::string& error)
-{
-    if (source == "-") {
-        text.assign(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
-        return true;
-    }
-    std::ifstream in(source, std::ios::binary);
-    if (in) {
-        std::ostringstream content;
-        content << in.rdbuf();
-        if (!in.bad()) {
-            text = content.str();
-            return true;
-        }
-    }
-    error = "cannot read '" + source + "': " + std::strerror(errno != 0 ? errno : EIO);
-    return false;
-}
 
 std::string withoutCarriageReturns(std::string text)
 {
     text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
     return text;
 }
+
+std::string sourceName(const std::string& source) { return source == "-" ? "standard input" : source; }
 
 // Sections built from an address (`include`) are read before the run, here as an agent would.
 void readIncludes(Policy& policy, cli::Console& console)
@@ -83,22 +82,124 @@ std::vector<std::string> linesOf(const std::string& text)
     return lines;
 }
 
+std::string isoTime(std::chrono::system_clock::time_point when)
+{
+    std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
+    return text;
+}
+
+// The cause of a failed parse in a person's words.
+std::string causeOf(Policy& policy, const std::string& text)
+{
+    if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
+        return text.empty() ? "is empty" : "holds only white space";
+    }
+    std::string reason = policy.getFatalErrorReason().empty() ? "no element" : policy.getFatalErrorReason();
+    const tvpolicy::SourceLocation& where = policy.getFatalErrorLocation();
+    std::string cause = "not XML: " + reason;
+    if (where.line > 0) {
+        cause += " at line " + std::to_string(where.line) + ", column " + std::to_string(where.column);
+    }
+    return cause;
+}
+
+// Where the results go and in which form: a file (atomically) or standard output.
+int deliver(const RunOptions& options, const Json& report, const std::string& trace, cli::Console& console)
+{
+    bool toFile = !options.output.empty();
+    std::string format = options.format;
+    if (format.empty()) {
+        bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
+        format = options.json || (toFile && jsonName) ? "json" : "text";
+    }
+    cli::TextStyle style{!toFile && cli::colourWanted(console.outFd(), options.noColor)};
+    std::ostringstream body;
+    if (format == "json") {
+        body << report.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    } else {
+        if (options.trace) {
+            body << "Trace:\n" << trace << '\n';
+        }
+        cli::printReport(report, body, style);
+    }
+    if (!toFile) {
+        console.out() << body.str();
+        return cli::exitPassed;
+    }
+    std::string why;
+    if (!cli::writeFileAtomically(options.output, body.str(), why)) {
+        console.err() << "tvpolicy run: the results were not saved: " << why << '\n';
+        return cli::exitUsage;
+    }
+    console.out() << cli::verdictLine(report, style) << '\n';
+    return cli::exitPassed;
+}
+
 int runPolicy(const RunOptions& options, cli::Console& console)
 {
-    std::string text, error;
-    if (!readSource(options.source, text, error)) {
-        console.err() << "tvpolicy run: " << error << '\n';
-        return cli::exitUsage;
-    }
-    std::unique_ptr<Policy> policy(Policy::parseFromString(text, true));
-    if (policy->getFatalParseError()) {
-        console.err() << "tvpolicy run: " << withoutCarriageReturns(policy->getFatalErrorMsg()) << '\n';
-        return cli::exitUsage;
-    }
-    readIncludes(*policy, console);
+    const auto started = std::chrono::system_clock::now();
+    const auto clock = std::chrono::steady_clock::now();
+    bool errColour = cli::colourWanted(console.errFd(), options.noColor);
 
-    cli::RunProgress progress(console.err(), console.errIsTerminal(), policy->getProgressMax());
-    policy->connect([&progress](std::shared_ptr<std::string> name) { progress.announce(*name); });
+    cli::DocumentRead input = cli::readDocument(options.source, options.maxSizeMB << 20);
+    if (!input.ok && !input.directory) {
+        console.err() << "tvpolicy run: " << input.error << '\n';
+        return cli::exitUsage;
+    }
+    std::unique_ptr<Policy> policy(Policy::parseFromString(input.text, true));
+    if (policy->getFatalParseError()) {
+        console.err() << "tvpolicy run: " << withoutCarriageReturns(policy->getFatalErrorMsg()) << '\n'
+                      << "tvpolicy run: " << sourceName(options.source) << ": "
+                      << (input.directory ? "is a directory" : causeOf(*policy, input.text)) << '\n';
+        return cli::exitUsage;
+    }
+    if (policy->getRootElement() != "policy") {
+        console.err() << "tvpolicy run: " << sourceName(options.source) << " is not a policy: its root element is <"
+                      << policy->getRootElement() << ">, a policy's is <policy>\n";
+        return cli::exitUsage;
+    }
+
+    // An include that cannot be read ends the run, as it ends the agent; the CLI says why and
+    // ends with its own status.
+    Section::setReadFailureHandler([&console](const std::string& url, const std::string& reason) {
+        console.err() << "tvpolicy run: cannot read the included section at " << url << ": " << reason << '\n'
+                      << std::flush;
+        console.out() << std::flush;
+        std::exit(cli::exitUnfetched);
+    });
+    readIncludes(*policy, console);
+    Section::setReadFailureHandler(nullptr);
+
+    std::vector<cli::Notice> notices = cli::documentNotices(*policy);
+    std::size_t documentWarnings = notices.size();
+    for (const cli::Notice& notice : cli::hostNotices(*policy)) {
+        notices.push_back(notice);
+    }
+    for (const cli::Notice& notice : notices) {
+        console.err() << "tvpolicy run: " << cli::toned("warning", cli::Tone::warn, errColour) << ": "
+                      << cli::describe(notice) << '\n';
+    }
+    if (options.strict && documentWarnings > 0) {
+        console.err() << "tvpolicy run: --strict: the policy holds what would not be evaluated; it was not run\n";
+        return cli::exitUsage;
+    }
+
+    auto mode = options.quiet                           ? cli::RunProgress::Mode::quiet
+                : cli::smartTerminal(console.errFd()) ? cli::RunProgress::Mode::bar
+                                                        : cli::RunProgress::Mode::lines;
+    cli::RunProgress progress(console.err(), console.errFd(), mode, policy->getProgressMax());
+    Policy& running = *policy;
+    policy->connect([&progress, &running](std::shared_ptr<std::string> name) {
+        if (!name->empty()) {
+            progress.started(*name);
+        } else if (const Section* passedOver = running.getAnnouncedSection()) {
+            progress.passedOver(passedOver->getName());
+        }
+    });
     std::string trace;
     bool passed = false;
     {
@@ -107,32 +208,55 @@ int runPolicy(const RunOptions& options, cli::Console& console)
     }
     progress.finish();
 
-    nlohmann::ordered_json report = cli::reportPolicy(*policy, passed, progress.announced());
-    if (options.json) {
-        if (options.trace) {
-            report["trace"] = linesOf(trace);
-        }
-        console.out() << report.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
-    } else {
-        if (options.trace) {
-            console.out() << "Trace:\n" << trace << '\n';
-        }
-        cli::printReport(report, console.out());
+    int status = passed ? cli::exitPassed : cli::exitFailed;
+    if (policy->isAuditOnly() && !options.enforce) {
+        status = cli::exitPassed;  // an audit-only policy reports; it does not decide access
     }
-    console.out() << std::flush;
-    return passed ? cli::exitPassed : cli::exitFailed;
+    Json report = cli::reportPolicy(*policy, passed, progress.announced(), notices);
+    report["exitStatus"] = status;
+    report["run"] = {{"tool", "tvpolicy"},
+                     {"toolVersion", TVPOLICY_VERSION},
+                     {"libraryVersion", tvpolicy::libraryVersion()},
+                     {"startTime", isoTime(started)},
+                     {"durationMs", std::chrono::duration_cast<std::chrono::milliseconds>(
+                                        std::chrono::steady_clock::now() - clock).count()},
+                     {"hostName", Machine::getHostName()},
+                     {"os", Machine::getOSString()},
+                     {"osVersion", Machine::getOSVersion()}};
+    report["source"] = {{"path", options.source}, {"bytes", input.text.size()}, {"sha256", cli::sha256Hex(input.text)}};
+    if (options.trace) {
+        report["trace"] = linesOf(trace);
+    }
+    int delivered = deliver(options, report, trace, console);
+    return delivered != cli::exitPassed ? delivered : status;
 }
 
 cli::CommandAction setupRun(CLI::App& app)
 {
     auto options = std::make_shared<RunOptions>();
     app.add_option("SOURCE", options->source, "The policy: a file, or - for standard input")->required();
-    app.add_flag("--json", options->json, "Print the results as one JSON document");
+    app.add_flag("--json", options->json, "Print the results as one JSON document (same as --format json)");
     app.add_flag("--trace", options->trace, "Show the evaluation trace");
+    app.add_flag("--strict", options->strict,
+                 "Refuse (exit 2) a policy that holds elements or attributes that would not be evaluated");
+    app.add_flag("-q,--quiet", options->quiet, "Show no progress");
+    app.add_flag("--no-color", options->noColor, "No colour on a terminal (also: NO_COLOR set)");
+    app.add_flag("--enforce", options->enforce, "Exit by the verdict also for an audit-only policy");
+    app.add_option("--output", options->output,
+                   "Write the results to FILE (atomically) instead of standard output, which then shows the verdict")
+        ->option_text("FILE");
+    app.add_option("--format", options->format, "Results as text or json (default: by --json, or by FILE's .json)")
+        ->check(CLI::IsMember({"text", "json"}));
+    app.add_option("--max-size", options->maxSizeMB, "Refuse a policy larger than N MB before reading it")
+        ->capture_default_str()
+        ->check(CLI::Range(std::size_t{1}, std::size_t{4096}));
     return [options](cli::Console& console) { return runPolicy(*options, console); };
 }
 
 const bool registered = cli::registerCommand(
-    {"run", "Evaluate a policy on this computer: exit 0 passed, 1 failed, 2 unreadable", 10, &setupRun});
+    {"run",
+     "Evaluate a policy on this computer: exit 0 passed, 1 failed, 2 unreadable or refused, 3 an include could not "
+     "be fetched",
+     10, &setupRun});
 
 }  // namespace

@@ -1,57 +1,85 @@
 #include "RunProgress.h"
 
 #include <algorithm>
+#include <atomic>
+#include <csignal>
+#include <unistd.h>
+
+#include "TerminalText.h"
 
 namespace cli {
 
 namespace {
 
-// At most 40 bytes of a UTF-8 name, never cutting a character in two.
-std::string shortened(const std::string& name)
+// Where a bar is drawn, for the signal handler that erases it; -1 while none is.
+std::atomic<int> barFd{-1};
+
+extern "C" void eraseBarAndStop(int signal)
 {
-    std::size_t length = std::min<std::size_t>(name.size(), 40);
-    while (length < name.size() && length > 0 && (static_cast<unsigned char>(name[length]) & 0xC0) == 0x80) {
-        --length;
+    int fd = barFd.load();
+    if (fd >= 0) {
+        static const char erase[] = "\r\033[K";
+        [[maybe_unused]] ssize_t ignored = ::write(fd, erase, sizeof erase - 1);
     }
-    return name.substr(0, length);
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
 }
 
 }  // namespace
 
-void RunProgress::announce(const std::string& sectionName)
+RunProgress::RunProgress(std::ostream& err, int errFd, Mode mode, unsigned max)
+    : err_(err), errFd_(errFd), mode_(mode), max_(max)
 {
-    if (heldBack_) {
-        heldBack_ = false;
-        show("(section passed over)");
+    if (mode_ == Mode::bar) {
+        barFd = errFd_;
+        std::signal(SIGINT, eraseBarAndStop);
+        std::signal(SIGTERM, eraseBarAndStop);
     }
-    if (sectionName.empty()) {
-        heldBack_ = true;
-        return;
-    }
-    show(sectionName);
 }
+
+RunProgress::~RunProgress()
+{
+    if (mode_ == Mode::bar) {
+        std::signal(SIGINT, SIG_DFL);
+        std::signal(SIGTERM, SIG_DFL);
+        barFd = -1;
+    }
+}
+
+void RunProgress::started(const std::string& sectionName) { show(sectionName); }
+
+void RunProgress::passedOver(const std::string& sectionName) { show("(passed over) " + sectionName); }
 
 void RunProgress::finish()
 {
-    heldBack_ = false;
-    if (terminal_ && count_ > 0) {
+    if (mode_ == Mode::bar && drawn_) {
         err_ << "\r\033[K" << std::flush;
+        drawn_ = false;
     }
 }
 
 void RunProgress::show(const std::string& label)
 {
     ++count_;
-    // A custom-scan section can be evaluated twice, so the count may pass the maximum.
-    unsigned shown = max_ > 0 ? std::min(count_, max_) : count_;
-    if (!terminal_) {
-        err_ << "[" << shown << "/" << max_ << "] " << label << '\n' << std::flush;
+    if (mode_ == Mode::quiet) {
         return;
     }
-    constexpr unsigned width = 30;
-    unsigned filled = max_ > 0 ? shown * width / max_ : width;
-    std::string bar = std::string(filled, '#') + std::string(width - filled, '-');
-    err_ << "\r[" << bar << "] " << shown << "/" << max_ << " " << shortened(label) << "\033[K" << std::flush;
+    // A custom-scan section can be evaluated twice, so the count may pass the maximum.
+    unsigned shown = max_ > 0 ? std::min(count_, max_) : count_;
+    std::string counter = std::to_string(shown) + "/" + std::to_string(max_);
+    if (mode_ == Mode::lines) {
+        err_ << "[" << counter << "] " << label << '\n' << std::flush;
+        return;
+    }
+    // [######----] 3/6 name, within the terminal's width (the last column is left free so the
+    // terminal never wraps).
+    std::size_t columns = terminalColumns(errFd_);
+    std::size_t width = std::min<std::size_t>(30, columns > 40 ? 30 : columns / 4);
+    std::size_t filled = max_ > 0 ? shown * width / max_ : width;
+    std::string head = "[" + std::string(filled, '#') + std::string(width - filled, '-') + "] " + counter + " ";
+    std::size_t room = columns > head.size() + 1 ? columns - head.size() - 1 : 0;
+    err_ << "\r" << head << fitWidth(label, room) << "\033[K" << std::flush;
+    drawn_ = true;
 }
 
 }  // namespace cli

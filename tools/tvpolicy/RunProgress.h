@@ -5,28 +5,36 @@
 
 namespace cli {
 
-/// Shows a policy run's announcements as they come, counted against the policy's progress
-/// maximum: a bar redrawn in place on a terminal, one line per section otherwise.
-///
-/// An empty announcement stands for a section passed over, except the last one, which ends
-/// the run; so each empty one is held back until the next announcement shows it was not last.
+/// Shows a policy run's sections as they start, counted against the policy's progress
+/// maximum: one line per section ("[3/6] Agent"), or on a terminal one bar redrawn in place,
+/// fitted to the terminal's width and erased at the end or when the run is interrupted.
 class RunProgress {
 public:
-    RunProgress(std::ostream& err, bool terminal, unsigned max) : err_(err), terminal_(terminal), max_(max) {}
+    enum class Mode { quiet, lines, bar };
 
-    void announce(const std::string& sectionName);
-    /// The run is over: the held-back end mark is dropped and the bar cleared.
+    RunProgress(std::ostream& err, int errFd, Mode mode, unsigned max);
+    ~RunProgress();
+    RunProgress(const RunProgress&) = delete;
+    RunProgress& operator=(const RunProgress&) = delete;
+
+    /// A section starts.
+    void started(const std::string& sectionName);
+    /// A secondary section is passed over because its group's primary did not pass.
+    void passedOver(const std::string& sectionName);
+    /// The run is over: the bar is erased.
     void finish();
+    /// Sections shown so far, those passed over included.
     unsigned announced() const { return count_; }
 
 private:
     void show(const std::string& label);
 
     std::ostream& err_;
-    bool terminal_;
+    int errFd_;
+    Mode mode_;
     unsigned max_;
     unsigned count_ = 0;
-    bool heldBack_ = false;
+    bool drawn_ = false;
 };
 
 }  // namespace cli

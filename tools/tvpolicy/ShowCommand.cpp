@@ -7,6 +7,8 @@
 #include <nlohmann/json.hpp>
 
 #include <tvpolicy/agent/AgentConfigXML.h>
+#include <tvpolicy/agent/AgentSchema.h>
+#include <tvpolicy/agent/DocumentCheck.h>
 #include <tvpolicy/agent/AgentStatusXML.h>
 #include <tvpolicy/agent/LoginField.h>
 #include <tvpolicy/agent/WifiConfigurationProfile.h>
@@ -115,16 +117,26 @@ cli::CommandAction setupShow(CLI::App& app)
     auto options = std::make_shared<Options>();
     app.add_option("KIND", options->kind, "config, status or profile")
         ->required()->check(CLI::IsMember({"config", "status", "profile"}));
-    app.add_option("FILE", options->file, "The document, as the server sends it")->required();
+    app.add_option("FILE", options->file, "The document, as the server sends it, or - for standard input")->required();
     app.add_flag("--json", options->json, "Print one JSON object instead of one line per value");
     app.add_flag("--reveal", options->reveal, "Show Wi-Fi pass phrases instead of hiding them");
 
     return [options](cli::Console& console) -> int {
-        std::optional<std::string> loaded = cli::loadDocument(console, "show", options->file);
+        std::optional<std::string> loaded = cli::loadXmlDocument(console, "show", options->file);
         if (!loaded) {
             return cli::exitUsage;
         }
         const std::string& text = *loaded;
+        // The readers take elements of the agent namespace only: a document without any would
+        // show nothing but defaults.
+        tvpolicy::DocumentCheck check = tvpolicy::checkDocument(text);
+        if (check.agentElements == 0) {
+            console.err() << "tvpolicy show: " << (options->file == "-" ? "standard input" : options->file)
+                          << " is not an agent document: no element is in the namespace "
+                          << com::torvane::agentSchemaNamespace << " (its root element is <" << check.rootElement
+                          << ">)\n";
+            return cli::exitUsage;
+        }
         Json shown;
         if (options->kind == "config") {
             shown = configJson(*AgentConfigXML::parse(text));

@@ -16,16 +16,41 @@ int main(int argc, char** argv)
     app.set_version_flag("--version", std::string("tvpolicy ") + TVPOLICY_VERSION);
     app.require_subcommand(1);
 
+    // Global options are taken after the subcommand too: tvpolicy run x.xml -v
+    app.fallthrough();
+
     bool verbose = false;
     std::string logFile;
-    app.add_flag("-v,--verbose", verbose, "Show the library's own log lines on standard error");
-    app.add_option("--log", logFile, "Append the library's own log lines to FILE")->option_text("FILE");
+    CLI::Option* verboseFlag = app.add_flag("-v,--verbose", verbose, "Show the library's own log lines on standard error");
+    app.add_option("--log", logFile, "Append the library's own log lines to FILE (instead of -v)")
+        ->option_text("FILE")
+        ->excludes(verboseFlag);
 
     std::map<CLI::App*, cli::CommandAction> actions;
     for (const cli::Command& command : cli::registeredCommands()) {
         CLI::App* sub = app.add_subcommand(command.name, command.description);
         actions[sub] = command.setup(*sub);
     }
+
+    // tvpolicy help [SUBCOMMAND]: the same text as --help.
+    std::string helpTopic;
+    CLI::App* help = app.add_subcommand("help", "Show the help of tvpolicy or of one subcommand");
+    help->add_option("SUBCOMMAND", helpTopic, "The subcommand to explain");
+    actions[help] = [&app, &helpTopic](cli::Console& console) {
+        if (helpTopic.empty()) {
+            // app.help() would describe the chosen subcommand, which is this one.
+            console.out() << app.get_formatter()->make_help(&app, app.get_name(), CLI::AppFormatMode::Normal);
+            return cli::exitPassed;
+        }
+        for (CLI::App* sub : app.get_subcommands({})) {
+            if (sub->get_name() == helpTopic) {
+                console.out() << sub->help();
+                return cli::exitPassed;
+            }
+        }
+        console.err() << "tvpolicy help: no subcommand '" << helpTopic << "'\nRun with --help for the list.\n";
+        return cli::exitUsage;
+    };
 
     try {
         app.parse(argc, argv);
@@ -53,12 +78,22 @@ int main(int argc, char** argv)
     }
 
     for (CLI::App* sub : app.get_subcommands()) {
+        int status = cli::exitUsage;
         try {
-            return actions.at(sub)(console);
+            status = actions.at(sub)(console);
         } catch (const std::exception& error) {
             console.err() << "tvpolicy " << sub->get_name() << ": " << error.what() << '\n';
             return cli::exitUsage;
         }
+        // Results that did not reach standard output (a full disk, a closed stream) are lost:
+        // that is never a success.
+        std::string why;
+        if (!console.outDelivered(why)) {
+            console.err() << "tvpolicy " << sub->get_name() << ": cannot write to standard output: " << why << '\n'
+                          << std::flush;
+            return cli::exitUsage;
+        }
+        return status;
     }
     return cli::exitUsage;
 }

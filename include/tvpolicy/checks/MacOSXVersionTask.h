@@ -3,13 +3,14 @@
 #include <string>
 
 #include <tvpolicy/export.h>
+#include <tvpolicy/checks/VersionEvidence.h>
 #include <tvpolicy/policy/Task.h>
 
 /// The policy element MacOSXVersion: passes when the running OS's version (Machine::getOSVersion,
 /// a version of two words taken as if it ended in ".0") satisfies "major.minor.micro" under the
 /// operator of the attribute "operation" ("gt", "gte", "eq", "lte", "lt"; anything else, and
 /// no operation at all, means "gte"), compared by DelimVersion at ".".
-class TVPOLICY_API MacOSXVersionTask : public Task {
+class TVPOLICY_API MacOSXVersionTask : public Task, public tvpolicy::VersionEvidence {
 public:
     static Task* create();
 

@@ -30,6 +30,9 @@ public:
         /// The full path of the executable; absent when it cannot be read (a process of
         /// another user without privilege, a kernel thread, a zombie).
         std::optional<std::string> executablePath;
+        /// The path exists but was withheld for want of privilege (a process of another user):
+        /// the table is partial for whoever matches processes by path.
+        bool executableWithheld = false;
     };
 
     /// The maker's identity of the hardware. A field is absent when the host does not record

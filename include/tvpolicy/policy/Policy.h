@@ -14,6 +14,7 @@
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 
 #include <tvpolicy/export.h>
+#include <tvpolicy/policy/TaskSource.h>
 #include <tvpolicy/policy/Signal.h>
 
 class Option;
@@ -65,6 +66,18 @@ public:
     std::string getExtraInfo(const std::string& elementName) const;
     bool getFatalParseError() const { return fatalParseError; }
     const std::string& getFatalErrorMsg() const { return fatalErrorMsg; }
+    /// The reader's own words for the fatal error (empty when it gave none or there was none)
+    /// and where the reader stood (zeros when unknown). getFatalErrorMsg() stays the text for
+    /// the person at the computer; these are for tools that say what is wrong with a document.
+    const std::string& getFatalErrorReason() const { return fatalErrorReason; }
+    const tvpolicy::SourceLocation& getFatalErrorLocation() const { return fatalErrorLocation; }
+    /// The name of the document's outermost element ("policy" for a policy); empty when the
+    /// parse met no element. A document of another kind is read all the same: this tells.
+    const std::string& getRootElement() const { return rootElement; }
+    /// While the slots of an announcement run: the section it is about, also for the empty
+    /// announcement of a secondary section passed over; null for the announcement that ends a
+    /// run and outside announcements.
+    const Section* getAnnouncedSection() const { return announcedSection; }
     bool isAuditOnly() const { return auditOnly; }
     bool isRegisterFailedRogue() const { return registerFailedRogue; }
     bool isRenewIP() const { return renewIP; }
@@ -105,7 +118,7 @@ private:
     friend class Section;
     friend class Option;
 
-    void announce(std::string sectionName);
+    void announce(std::string sectionName, const Section* section = nullptr);
     void store(std::map<std::string, Section*>& into, const std::string& key, Section* item);
     std::string absolute(const std::string& url) const;
     void startOption(const xercesc::Attributes& attributes);
@@ -138,6 +151,10 @@ private:
     bool showErrors = false;
     bool fatalParseError = false;
     std::string fatalErrorMsg;
+    std::string fatalErrorReason;
+    tvpolicy::SourceLocation fatalErrorLocation;
+    std::string rootElement;
+    const Section* announcedSection = nullptr;
     std::ofstream debugFile;
     com::torvane::util::Signal<std::string> signal;
     bool result = false;

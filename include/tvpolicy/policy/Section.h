@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <list>
+#include <map>
 #include <stack>
 #include <string>
 #include <vector>
@@ -10,6 +12,7 @@
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 
 #include <tvpolicy/export.h>
+#include <tvpolicy/policy/TaskSource.h>
 
 class Policy;
 class Task;
@@ -42,8 +45,17 @@ public:
     void setDocumentLocator(const xercesc::Locator* locator) override;
     void warning(const xercesc::SAXParseException& exception) override;
     void error(const xercesc::SAXParseException& exception) override;
-    /// Reports where the section could not be read and ends the process with status 1.
+    /// Reports where the section could not be read and ends the process with status 1 (after
+    /// calling the read-failure handler, when one is set).
     void fatalError(const xercesc::SAXParseException& exception) override;
+
+    /// Learns why a section could not be read: its address and the reason in words. It runs
+    /// before the process ends with status 1, so an embedder that wants another ending (its
+    /// own exit status, a message of its own) ends the process inside it; a handler that
+    /// returns leaves the default ending. One handler for the process; an empty one restores
+    /// the default.
+    using ReadFailureHandler = std::function<void(const std::string& url, const std::string& reason)>;
+    static void setReadFailureHandler(ReadFailureHandler handler);
 
     /// False for a section; an option answers whether all its grouped primaries are prohibited.
     virtual bool isAllProhibited();
@@ -82,11 +94,23 @@ public:
     void setName(std::string value) { name = std::move(value); }
     const std::string& getName() const { return name; }
 
+    /// Where the section's start tag stands in the policy (for an included section: where its
+    /// content begins); line 0 for a section made in code.
+    const tvpolicy::SourceLocation& getLocation() const { return location; }
+    void setLocation(tvpolicy::SourceLocation value) { location = value; }
+    /// How the document wrote `task`, one of this section's task trees or a term nested in one;
+    /// null for a task added in code.
+    const tvpolicy::TaskSource* getTaskSource(const Task* task) const;
+    /// The elements of the section that name no check kind, in document order. The parse
+    /// passes over each (elements inside one are read as if it were not there), so none has a
+    /// part in the section's outcome.
+    const std::vector<tvpolicy::IgnoredElement>& getIgnoredElements() const { return ignored; }
+
 protected:
     /// A trace line through the owning policy's debug, or the plain log without a policy.
     void trace(const std::string& message);
     /// Announces a starting section on the owning policy's signal ("" for one passed over).
-    void announce(const std::string& sectionName);
+    void announce(const std::string& sectionName, const Section* section);
     /// Counts one section on the owning policy's progress.
     void countProgress();
 
@@ -112,4 +136,7 @@ private:
     bool refuse();
 
     tvpolicy::policy::ParseGuard* guard = nullptr;  // bounds of the document being read
+    tvpolicy::SourceLocation location;
+    std::map<const Task*, tvpolicy::TaskSource> sources;
+    std::vector<tvpolicy::IgnoredElement> ignored;
 };

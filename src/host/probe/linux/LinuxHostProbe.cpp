@@ -172,6 +172,8 @@ std::vector<HostProbe::ProcessEntry> LinuxHostProbe::processTable() const
         ssize_t length = ::readlinkat(procFd, path, target, sizeof target);
         if (length > 0 && static_cast<std::size_t>(length) < sizeof target) {
             process.executablePath = parse::procExeTarget(std::string(target, static_cast<std::size_t>(length)));
+        } else if (length < 0 && (errno == EACCES || errno == EPERM)) {
+            process.executableWithheld = true;
         }
         table.push_back(std::move(process));
     }

@@ -1,0 +1,7 @@
+#include <tvpolicy/version.h>
+
+namespace tvpolicy {
+
+const char* libraryVersion() { return TVPOLICY_VERSION; }
+
+}  // namespace tvpolicy
