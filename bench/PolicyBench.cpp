@@ -27,44 +27,14 @@
 #include <xercesc/sax2/XMLReaderFactory.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include "LargePolicy.h"
 #include "xml/XmlPlatform.h"
 
 namespace {
 
-constexpr int sectionCount = 10000;
+constexpr int sectionCount = tvpolicy::bench::largePolicySections;
 
-// One section: a help text and a tree of and/or/not over constant and Validate checks, grouped
-// in fours (a primary and three secondaries).
-std::string sectionText(int index)
-{
-    std::string number = std::to_string(index);
-    std::string group = "g" + std::to_string(index / 4);
-    bool primary = index % 4 == 0;
-    return "  <section name=\"Section " + number + "\" group=\"" + group + "\"" + (primary ? " primary=\"true\"" : "") +
-           " instr=\"http://nac.example.test/help/" + number + "\">\n"
-           "    <help>Section " + number + " checks that the workstation keeps its settings.</help>\n"
-           "    <and>\n"
-           "      <or><false/><Validate status=\"true\"/><not><false/></not></or>\n"
-           "      <not><and><true/><Validate status=\"false\"/></and></not>\n"
-           "      <and skipEmpty=\"true\"><true/><or><not><true/></not><true/></or><Validate status=\"true\"/></and>\n"
-           "      <or><and><true/><true/></and><false/></or>\n"
-           "    </and>\n"
-           "    <Validate status=\"true\"/>\n"
-           "  </section>\n";
-}
-
-const std::string& policyText()
-{
-    static const std::string text = [] {
-        std::string xml = "<?xml version=\"1.0\"?>\n<policy name=\"bench\" base=\"http://nac.example.test/\">\n";
-        xml += "  <success><url>success.jsp</url></success>\n";
-        for (int i = 0; i < sectionCount; ++i) {
-            xml += sectionText(i);
-        }
-        return xml + "</policy>\n";
-    }();
-    return text;
-}
+const std::string& policyText() { return tvpolicy::bench::largePolicyText(); }
 
 // A log destination that keeps nothing.
 class Discard : public std::streambuf {
@@ -222,7 +192,7 @@ void BM_PolicyPeakMemory(benchmark::State& state)
     std::string dir = "/tmp/tvpolicy-bench-" + std::to_string(::getpid());
     std::string large = dir + "-large.xml", small = dir + "-small.xml";
     std::ofstream(large) << policyText();
-    std::ofstream(small) << "<policy name=\"small\">\n" << sectionText(0) << "</policy>\n";
+    std::ofstream(small) << "<policy name=\"small\">\n" << tvpolicy::bench::largePolicySection(0) << "</policy>\n";
     long baseline = 0, peak = 0;
     for (auto _ : state) {
         baseline = childPeakKilobytes(small);

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages that building and testing tvpolicy need.
-# Idempotent; prints nothing when everything is already present.
+# Installs the Debian 12 packages that building and testing tvpolicy need; with
+# TVPOLICY_SETUP_TESTS=1 also those that only the tests use (a browser that renders the HTML
+# report). Idempotent; prints nothing when everything is already present.
 set -euo pipefail
 
 packages=(
@@ -8,8 +9,11 @@ packages=(
   libxerces-c-dev libcurl4-openssl-dev libboost-dev libsystemd-dev
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
-  dnsmasq-base iproute2 procps findutils python3 python3-dbusmock dbus
+  dnsmasq-base iproute2 procps findutils python3 python3-dbusmock dbus util-linux
 )
+if [[ ${TVPOLICY_SETUP_TESTS:-0} == 1 ]]; then
+  packages+=(chromium)
+fi
 
 missing=()
 for package in "${packages[@]}"; do

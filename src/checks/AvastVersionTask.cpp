@@ -29,7 +29,7 @@ void AvastVersionTask::setOwnAttribute(const Attribute& attribute)
 std::string AvastVersionTask::foundVersion()
 {
     std::vector<std::string> dates{"0"};
-    File databases(fileName_, false, "", tvpolicy::currentHost().systemPath(startPath_));
+    File databases(fileName_, false, "", startPath_);
     std::list<std::string> found;
     try {
         found = databases.getAllFiles();

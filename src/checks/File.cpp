@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <vector>
 
+#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/Utilities.h>
 
 #include "checks/DirectoryStream.h"
@@ -25,10 +26,13 @@ bool File::setWaitOnExecute(std::string wait)
 std::list<std::string> File::roots() const
 {
     std::list<std::string> roots = startPath_.empty() ? fixedDisks() : std::list<std::string>{startPath_};
+    // Searched where this host keeps them: the real backend answers each path itself, a
+    // described host maps them into a folder of its own.
     for (std::string& root : roots) {
         if (root.compare(0, 3, "//:") == 0) {
             root.erase(0, 3);
         }
+        root = tvpolicy::currentHost().systemPath(root);
     }
     return roots;
 }

@@ -1,6 +1,6 @@
 #include <tvpolicy/checks/VersionFromScriptTask.h>
 
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
@@ -24,7 +24,7 @@ std::string VersionFromScriptTask::foundVersion()
 {
     std::string found = "0";
     if (!script_.empty()) {
-        found = getOutputFromCommand(script_, 256);
+        found = tvpolicy::currentHost().commandOutput(script_, 256);
     }
     return found;
 }

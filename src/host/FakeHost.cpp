@@ -28,6 +28,13 @@ std::vector<HostProbe::ProcessEntry> FakeHost::processTable() const { return pro
 
 std::string FakeHost::dnsFlushCommand() const { return flushCommand; }
 
+std::string FakeHost::commandOutput(const std::string& command, unsigned long)
+{
+    commandsRun.push_back(command);
+    auto found = commandOutputs.find(command);
+    return found != commandOutputs.end() ? found->second : std::string();
+}
+
 int FakeHost::runShellCommand(const std::string& command)
 {
     commandsRun.push_back(command);

@@ -90,6 +90,8 @@ std::string section(const std::string& name, const std::string& checks)
 
 TEST_F(CheckPolicies, EveryKindRunsFromItsElement)
 {
+    // The described host answers the script; nothing runs on this machine.
+    mapped.host.commandOutputs["echo 2.6.32"] = "2.6.32\n";
     bool result = false;
     auto outcomes = run(
         section("file", "<File fileName=\"settings.ini\" startPath=\"@/data\" lastModified=\"2000-1-1\"/>") +

@@ -179,36 +179,14 @@ Json switchesOf(Policy& policy)
             {"extra", extra}};
 }
 
-std::string attributeText(const Json& task)
-{
-    std::string text = task.value("element", task["type"].get<std::string>());
-    if (task.contains("attributes")) {
-        for (const auto& [name, value] : task["attributes"].items()) {
-            text += " " + name + "=\"" + value.get<std::string>() + "\"";
-        }
-    }
-    return text;
-}
-
-std::string versionText(const Json& task)
-{
-    if (!task.contains("version")) {
-        return "";
-    }
-    const Json& version = task["version"];
-    std::string operation = version["operation"].get<std::string>();
-    return "found \"" + version["found"].get<std::string>() + "\", required " + (operation.empty() ? "gte" : operation) +
-           " \"" + version["required"].get<std::string>() + "\"";
-}
-
 void printTerms(const Json& task, std::ostream& out, const std::string& indent)
 {
     if (!task.contains("terms")) {
         return;
     }
     for (const Json& term : task["terms"]) {
-        std::string version = versionText(term);
-        out << indent << attributeText(term) << (version.empty() ? "" : " - " + version) << '\n';
+        std::string version = comparedVersions(term);
+        out << indent << checkLabel(term) << (version.empty() ? "" : " - " + version) << '\n';
         printTerms(term, out, indent + "  ");
     }
 }
@@ -241,9 +219,9 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
         if (!task["passed"].is_null()) {
             outcome = toned(outcome, task["passed"].get<bool>() ? Tone::pass : Tone::fail, style.colour);
         }
-        out << indent << "    " << attributeText(task) << ": " << outcome;
+        out << indent << "    " << checkLabel(task) << ": " << outcome;
         std::string message = task["message"].get<std::string>();
-        std::string version = versionText(task);
+        std::string version = comparedVersions(task);
         if (!message.empty()) {
             out << " - " << message;
         }
@@ -301,6 +279,28 @@ void printSwitches(const Json& switches, std::ostream& out)
 }
 
 }  // namespace
+
+std::string checkLabel(const Json& task)
+{
+    std::string text = task.value("element", task["type"].get<std::string>());
+    if (task.contains("attributes")) {
+        for (const auto& [name, value] : task["attributes"].items()) {
+            text += " " + name + "=\"" + value.get<std::string>() + "\"";
+        }
+    }
+    return text;
+}
+
+std::string comparedVersions(const Json& task)
+{
+    if (!task.contains("version")) {
+        return "";
+    }
+    const Json& version = task["version"];
+    std::string operation = version["operation"].get<std::string>();
+    return "found \"" + version["found"].get<std::string>() + "\", required " + (operation.empty() ? "gte" : operation) +
+           " \"" + version["required"].get<std::string>() + "\"";
+}
 
 Json reportPolicy(Policy& policy, bool passed, unsigned announced, const std::vector<Notice>& notices)
 {

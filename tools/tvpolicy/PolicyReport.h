@@ -31,6 +31,13 @@ void printReport(const nlohmann::ordered_json& report, std::ostream& out, const 
 /// The last line of printReport: Policy "name": PASS (... of N sections)
 std::string verdictLine(const nlohmann::ordered_json& report, const TextStyle& style);
 
+/// A check of the report as its policy wrote it: the element and its attributes
+/// (File fileName="passwd" startPath="/etc").
+std::string checkLabel(const nlohmann::ordered_json& task);
+
+/// What a version check compared (found "2.4.1", required gte "3.0"); empty for other checks.
+std::string comparedVersions(const nlohmann::ordered_json& task);
+
 /// The words for a section status number.
 std::string statusText(unsigned status);
 

@@ -1,6 +1,5 @@
 // tvpolicy run SOURCE: evaluates a policy on this computer and reports every item, what was
 // not evaluated, and the verdict.
-#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -13,13 +12,18 @@
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 #include <xercesc/sax2/XMLReaderFactory.hpp>
 
+#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/Machine.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 #include <tvpolicy/version.h>
 
 #include "Command.h"
+#include "DescribedHost.h"
 #include "DocumentFile.h"
+#include "PolicyInput.h"
+#include "HtmlReport.h"
+#include "JunitReport.h"
 #include "PolicyNotices.h"
 #include "PolicyReport.h"
 #include "ResultsFile.h"
@@ -42,16 +46,11 @@ struct RunOptions {
     bool enforce = false;
     std::string output;
     std::string format;
+    std::string htmlReport;
+    std::string junitReport;
+    std::string hostDescription;
     std::size_t maxSizeMB = cli::defaultMaxDocumentMB;
 };
-
-std::string withoutCarriageReturns(std::string text)
-{
-    text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
-    return text;
-}
-
-std::string sourceName(const std::string& source) { return source == "-" ? "standard input" : source; }
 
 // Sections built from an address (`include`) are read before the run, here as an agent would.
 void readIncludes(Policy& policy, cli::Console& console)
@@ -92,21 +91,6 @@ std::string isoTime(std::chrono::system_clock::time_point when)
     return text;
 }
 
-// The cause of a failed parse in a person's words.
-std::string causeOf(Policy& policy, const std::string& text)
-{
-    if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
-        return text.empty() ? "is empty" : "holds only white space";
-    }
-    std::string reason = policy.getFatalErrorReason().empty() ? "no element" : policy.getFatalErrorReason();
-    const tvpolicy::SourceLocation& where = policy.getFatalErrorLocation();
-    std::string cause = "not XML: " + reason;
-    if (where.line > 0) {
-        cause += " at line " + std::to_string(where.line) + ", column " + std::to_string(where.column);
-    }
-    return cause;
-}
-
 // Where the results go and in which form: a file (atomically) or standard output.
 int deliver(const RunOptions& options, const Json& report, const std::string& trace, cli::Console& console)
 {
@@ -139,27 +123,56 @@ int deliver(const RunOptions& options, const Json& report, const std::string& tr
     return cli::exitPassed;
 }
 
+// The HTML and JUnit files asked for, each written whole or not at all.
+int writeReports(const RunOptions& options, const Json& report, const std::string& trace, cli::Console& console)
+{
+    std::string why;
+    if (!options.htmlReport.empty()) {
+        Json withTrace = report;
+        if (!withTrace.contains("trace")) {
+            withTrace["trace"] = linesOf(trace);
+        }
+        if (!cli::writeFileAtomically(options.htmlReport, cli::htmlReport(withTrace), why)) {
+            console.err() << "tvpolicy run: the HTML report was not saved: " << why << '\n';
+            return cli::exitUsage;
+        }
+    }
+    if (!options.junitReport.empty()) {
+        std::string xml = cli::junitReport(report, why);
+        if (xml.empty() || !cli::writeFileAtomically(options.junitReport, xml, why)) {
+            console.err() << "tvpolicy run: the JUnit report was not saved: " << why << '\n';
+            return cli::exitUsage;
+        }
+    }
+    return cli::exitPassed;
+}
+
+int evaluate(const RunOptions& options, cli::Console& console);
+
 int runPolicy(const RunOptions& options, cli::Console& console)
+{
+    if (options.hostDescription.empty()) {
+        return evaluate(options, console);
+    }
+    std::string error;
+    std::unique_ptr<cli::DescribedHost> described = cli::DescribedHost::load(options.hostDescription, error);
+    if (!described) {
+        console.err() << "tvpolicy run: --host " << error << '\n';
+        return cli::exitUsage;
+    }
+    tvpolicy::ScopedHost scope(described->host());
+    return evaluate(options, console);
+}
+
+int evaluate(const RunOptions& options, cli::Console& console)
 {
     const auto started = std::chrono::system_clock::now();
     const auto clock = std::chrono::steady_clock::now();
     bool errColour = cli::colourWanted(console.errFd(), options.noColor);
 
-    cli::DocumentRead input = cli::readDocument(options.source, options.maxSizeMB << 20);
-    if (!input.ok && !input.directory) {
-        console.err() << "tvpolicy run: " << input.error << '\n';
-        return cli::exitUsage;
-    }
-    std::unique_ptr<Policy> policy(Policy::parseFromString(input.text, true));
-    if (policy->getFatalParseError()) {
-        console.err() << "tvpolicy run: " << withoutCarriageReturns(policy->getFatalErrorMsg()) << '\n'
-                      << "tvpolicy run: " << sourceName(options.source) << ": "
-                      << (input.directory ? "is a directory" : causeOf(*policy, input.text)) << '\n';
-        return cli::exitUsage;
-    }
-    if (policy->getRootElement() != "policy") {
-        console.err() << "tvpolicy run: " << sourceName(options.source) << " is not a policy: its root element is <"
-                      << policy->getRootElement() << ">, a policy's is <policy>\n";
+    std::string bytes;
+    std::unique_ptr<Policy> policy = cli::readPolicy(options.source, options.maxSizeMB << 20, "run", console, bytes);
+    if (!policy) {
         return cli::exitUsage;
     }
 
@@ -203,7 +216,7 @@ int runPolicy(const RunOptions& options, cli::Console& console)
     std::string trace;
     bool passed = false;
     {
-        cli::TeeStreamBuf capture(std::clog, trace, options.trace);
+        cli::TeeStreamBuf capture(std::clog, trace, options.trace || !options.htmlReport.empty());
         passed = policy->run();
     }
     progress.finish();
@@ -223,12 +236,13 @@ int runPolicy(const RunOptions& options, cli::Console& console)
                      {"hostName", Machine::getHostName()},
                      {"os", Machine::getOSString()},
                      {"osVersion", Machine::getOSVersion()}};
-    report["source"] = {{"path", options.source}, {"bytes", input.text.size()}, {"sha256", cli::sha256Hex(input.text)}};
+    report["source"] = {{"path", options.source}, {"bytes", bytes.size()}, {"sha256", cli::sha256Hex(bytes)}};
     if (options.trace) {
         report["trace"] = linesOf(trace);
     }
+    int written = writeReports(options, report, trace, console);
     int delivered = deliver(options, report, trace, console);
-    return delivered != cli::exitPassed ? delivered : status;
+    return written != cli::exitPassed ? written : delivered != cli::exitPassed ? delivered : status;
 }
 
 cli::CommandAction setupRun(CLI::App& app)
@@ -247,6 +261,12 @@ cli::CommandAction setupRun(CLI::App& app)
         ->option_text("FILE");
     app.add_option("--format", options->format, "Results as text or json (default: by --json, or by FILE's .json)")
         ->check(CLI::IsMember({"text", "json"}));
+    app.add_option("--report", options->htmlReport, "Also write a self-contained HTML report to FILE")
+        ->option_text("FILE");
+    app.add_option("--junit", options->junitReport, "Also write the results as JUnit XML to FILE")->option_text("FILE");
+    app.add_option("--host", options->hostDescription,
+                   "Evaluate against the host that the JSON document FILE describes, not this computer")
+        ->option_text("FILE");
     app.add_option("--max-size", options->maxSizeMB, "Refuse a policy larger than N MB before reading it")
         ->capture_default_str()
         ->check(CLI::Range(std::size_t{1}, std::size_t{4096}));

@@ -28,7 +28,10 @@ public:
     std::string flushCommand;         ///< answered by dnsFlushCommand()
 
     int commandStatus = 0;                 ///< what runShellCommand returns
-    std::vector<std::string> commandsRun;  ///< every command given to runShellCommand, in order
+    /// What commandOutput answers for each command; a command not listed prints nothing.
+    std::map<std::string, std::string> commandOutputs;
+    /// Every command given to runShellCommand or commandOutput, in order; none is run.
+    std::vector<std::string> commandsRun;
     std::vector<std::string> openedURLs;   ///< every URL given to openURL, in order
 
     std::string systemPath(const std::string& path) const override;
@@ -39,6 +42,7 @@ public:
     HardwareIdentity hardwareIdentity() const override;
     std::vector<ProcessEntry> processTable() const override;
     std::string dnsFlushCommand() const override;
+    std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
 };

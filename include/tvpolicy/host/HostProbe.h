@@ -70,6 +70,11 @@ public:
     /// offers none (no caching resolver runs, or the OS is too old to have a tool for it).
     virtual std::string dnsFlushCommand() const = 0;
 
+    /// Runs `command` through the shell and returns what it printed on standard output, read in
+    /// pieces of at most `bufferSize` - 1 bytes up to the end (as getOutputFromCommand does);
+    /// empty when no shell could be started.
+    virtual std::string commandOutput(const std::string& command, unsigned long bufferSize) = 0;
+
     /// Runs `command` through the shell without reading its output and waits for it. Returns
     /// the command's wait status, or 0 when no shell could be started.
     virtual int runShellCommand(const std::string& command) = 0;

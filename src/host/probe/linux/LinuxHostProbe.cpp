@@ -14,6 +14,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <tvpolicy/host/Utilities.h>
+
 #include "host/parse/OsRelease.h"
 #include "host/parse/ProcText.h"
 
@@ -192,6 +194,11 @@ std::string LinuxHostProbe::dnsFlushCommand() const
         nscd = nscd || process.shortName == "nscd";
     }
     return nscd ? "nscd -i hosts" : std::string();
+}
+
+std::string LinuxHostProbe::commandOutput(const std::string& command, unsigned long bufferSize)
+{
+    return getOutputFromCommand(command, bufferSize);
 }
 
 int LinuxHostProbe::runShellCommand(const std::string& command)

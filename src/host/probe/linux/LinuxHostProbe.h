@@ -23,6 +23,7 @@ public:
     HardwareIdentity hardwareIdentity() const override;
     std::vector<ProcessEntry> processTable() const override;
     std::string dnsFlushCommand() const override;
+    std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
 
