@@ -42,6 +42,7 @@ NetNamespace::NetNamespace()
 
 NetNamespace::~NetNamespace()
 {
+    leave();
     if (valid()) {
         run("ip netns del " + name_);
     }
@@ -71,8 +72,24 @@ void NetNamespace::setResolvConf(const std::string& text) const
     std::ofstream("/etc/netns/" + name_ + "/resolv.conf") << text;
 }
 
-bool NetNamespace::enter() const
+void NetNamespace::leave()
 {
+    if (savedMount_ >= 0) {
+        ::setns(savedMount_, CLONE_NEWNS);
+        ::close(savedMount_);
+        savedMount_ = -1;
+    }
+    if (savedNet_ >= 0) {
+        ::setns(savedNet_, CLONE_NEWNET);
+        ::close(savedNet_);
+        savedNet_ = -1;
+    }
+}
+
+bool NetNamespace::enter()
+{
+    savedNet_ = ::open("/proc/self/ns/net", O_RDONLY | O_CLOEXEC);
+    savedMount_ = ::open("/proc/self/ns/mnt", O_RDONLY | O_CLOEXEC);
     int fd = ::open(("/run/netns/" + name_).c_str(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
         return false;
@@ -95,7 +112,7 @@ bool NetNamespace::enter() const
     return true;
 }
 
-std::string NetNamespace::inChild(const std::function<std::string()>& work) const
+std::string NetNamespace::inChild(const std::function<std::string()>& work)
 {
     int fds[2];
     if (::pipe(fds) != 0) {

@@ -26,13 +26,17 @@ public:
     void setResolvConf(const std::string& text) const;
 
     /// Moves the calling process into the namespace, with the namespace's own /sys and
-    /// resolv.conf and no system bus; for a forked child or a single-threaded benchmark.
-    bool enter() const;
+    /// resolv.conf and no system bus; for a forked child or a single-threaded benchmark. The
+    /// process goes back to where it was when the object ends (or on leave()).
+    bool enter();
+    void leave();
     /// Runs `work` in a forked child inside the namespace and returns the text it returned
     /// ("<enter failed>" when the child could not enter).
-    std::string inChild(const std::function<std::string()>& work) const;
+    std::string inChild(const std::function<std::string()>& work);
 
 private:
+    int savedNet_ = -1;
+    int savedMount_ = -1;
     std::string name_;
     std::string skipReason_;
 };
