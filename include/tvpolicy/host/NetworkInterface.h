@@ -3,6 +3,7 @@
 #include <map>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <tvpolicy/export.h>
