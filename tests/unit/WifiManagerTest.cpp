@@ -25,8 +25,7 @@ TEST(WifiManager, SecurityTableKeepsItsShiftedEnterpriseNumbers)
         {WifiConfigurationProfile::OPEN, 0}, {WifiConfigurationProfile::WEP, 1},
         {WifiConfigurationProfile::WEP_ENTERPRISE, 4}, {WifiConfigurationProfile::WPA, 2},
         {WifiConfigurationProfile::WPA_ENTERPRISE, 5}, {WifiConfigurationProfile::WPA2, 3},
-        {WifiConfigurationProfile::WPA2_ENTERPRISE, 6}, {static_cast<WifiConfigurationProfile::Security>(7), 0},
-        {static_cast<WifiConfigurationProfile::Security>(-1), 0}};
+        {WifiConfigurationProfile::WPA2_ENTERPRISE, 6}, {static_cast<WifiConfigurationProfile::Security>(7), 0}};
     WifiManager manager;
     for (const auto& [security, mode] : table) {
         WifiConfigurationProfile profile;
