@@ -9,7 +9,7 @@ packages=(
   libxerces-c-dev libcurl4-openssl-dev libboost-dev libsystemd-dev
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
-  dnsmasq-base iproute2 procps findutils python3 python3-dbusmock dbus util-linux
+  dnsmasq-base iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo
 )
 if [[ ${TVPOLICY_SETUP_TESTS:-0} == 1 ]]; then
   packages+=(chromium)

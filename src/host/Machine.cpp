@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/NetworkInterface.h>
 #include <tvpolicy/host/Timestamp.h>
 #include <tvpolicy/host/Utilities.h>
 
@@ -66,6 +67,50 @@ std::string Machine::getSystemUUID() { return identityText(tvpolicy::currentHost
 std::string Machine::getSystemSerialNumber()
 {
     return identityText(tvpolicy::currentHost().hardwareIdentity().serialNumber);
+}
+
+namespace {
+
+// The inventory of this host for the length of one call.
+class Inventory {
+public:
+    Inventory() { com::torvane::api::NetworkInterface::getInstances(interfaces); }
+    ~Inventory() { com::torvane::api::NetworkInterface::freeInstances(interfaces); }
+    Inventory(const Inventory&) = delete;
+    Inventory& operator=(const Inventory&) = delete;
+
+    com::torvane::api::NetworkInterfaceMap interfaces;
+};
+
+}  // namespace
+
+void Machine::getInterfaces(std::vector<std::string>& macs, std::vector<std::string>& ips,
+                            std::vector<std::string>& descriptions, std::vector<std::string>& media)
+{
+    Inventory inventory;
+    for (const auto& [key, interface] : inventory.interfaces) {
+        macs.push_back(interface->getMACAddress());
+        ips.push_back(interface->getIPv4Address());
+        descriptions.push_back(interface->getDescription());
+        media.push_back(interface->getMedium());
+    }
+}
+
+std::string Machine::getMACAddress(std::string)
+{
+    Inventory inventory;
+    std::string query;
+    for (const auto& [key, interface] : inventory.interfaces) {
+        if (!query.empty()) {
+            query += "&";
+        }
+        query += "hw_desc=" + interface->getName() + "&mac=" + interface->getMACAddress() +
+                 "&hw_ip=" + interface->getIPv4Address();
+        if (!interface->getMedium().empty()) {
+            query += "&hw_media=" + interface->getMedium();
+        }
+    }
+    return query;
 }
 
 void Machine::launchBrowser(std::string url) { tvpolicy::currentHost().openURL(url); }

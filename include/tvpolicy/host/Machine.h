@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <tvpolicy/export.h>
 
@@ -29,6 +30,16 @@ public:
     static std::string getSystemUUID();
     /// The hardware's serial number (at most 127 characters); empty when unknown or unreadable.
     static std::string getSystemSerialNumber();
+
+    /// Builds the interface inventory and appends, for each interface in key order, its MAC
+    /// address, first IPv4 address, description and medium to the four lists (one entry per
+    /// interface in each, empty strings included).
+    static void getInterfaces(std::vector<std::string>& macs, std::vector<std::string>& ips,
+                              std::vector<std::string>& descriptions, std::vector<std::string>& media);
+    /// The interfaces as query text, in key order:
+    /// "hw_desc=NAME&mac=MAC&hw_ip=IPV4[&hw_media=MEDIUM]" joined by "&"; values not encoded.
+    /// The argument is not used.
+    static std::string getMACAddress(std::string unused);
 
     /// Opens `url` in the user's browser; unchecked.
     static void launchBrowser(std::string url);

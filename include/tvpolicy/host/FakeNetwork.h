@@ -1,0 +1,73 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <tvpolicy/export.h>
+#include <tvpolicy/host/NetworkProbe.h>
+
+namespace tvpolicy {
+
+/// A described network: interfaces, DNS domains, command outputs and a Wi-Fi interface are
+/// plain fields that the caller sets; renewals, commands, association attempts and stored
+/// profiles are recorded. Used with ScopedNetwork to run the inventory and the Wi-Fi manager
+/// against exact facts.
+class TVPOLICY_API FakeNetwork : public NetworkProbe {
+public:
+    /// The interface address list; empty means the list cannot be read.
+    std::optional<std::vector<AddressEntry>> addresses = std::vector<AddressEntry>();
+    /// Hardware by interface name; an interface not listed has none (empty texts).
+    std::map<std::string, Hardware> hardware;
+    /// How many lookups of an interface fail before one succeeds (each failure counts down).
+    mutable std::map<std::string, int> failingLookups;
+    /// Every interface name looked up, in order.
+    mutable std::vector<std::string> lookups;
+    /// Link state by interface name; an interface not listed is down.
+    std::map<std::string, LinkState> links;
+
+    std::string suffix;                     ///< answered by dnsSuffix()
+    std::vector<std::string> searchDomains; ///< answered by dnsSearchDomains()
+    std::string bssidTool;                  ///< answered by bssidCommand()
+    bool renewResult = true;                ///< what renewAddress returns
+    std::vector<std::string> renewed;       ///< every interface given to renewAddress
+
+    GuestTools tools;                                   ///< answered by guestTools()
+    std::map<std::string, std::string> outputs;         ///< command text to its output
+    std::vector<std::string> commands;                  ///< every command run, in order
+
+    std::optional<WifiStatus> wifi;         ///< the Wi-Fi interface, if any
+    std::vector<WifiNetwork> visible;       ///< what a scan finds (filtered by SSID)
+    std::string scanError;                  ///< set on every scan when not empty
+    /// The association attempt (counted from 1) after which the interface is on the network;
+    /// 0 never joins.
+    int joinOnAttempt = 1;
+    std::string associateError;             ///< set on every attempt when not empty
+    struct Association {
+        std::string ssid;
+        std::string password;
+        bool enterprise = false;
+    };
+    std::vector<Association> associations;  ///< every association attempt
+    std::vector<WifiSettings> stored;       ///< stored profiles; wifiStoreProfile adds to the front
+    std::string storeError;                 ///< makes wifiStoreProfile fail when not empty
+
+    std::optional<std::vector<AddressEntry>> interfaceAddresses() const override;
+    std::optional<Hardware> interfaceHardware(const std::string& name) const override;
+    LinkState linkState(const std::string& name) const override;
+    std::string dnsSuffix() const override;
+    std::vector<std::string> dnsSearchDomains() const override;
+    std::string bssidCommand() const override;
+    bool renewAddress(const std::string& name) override;
+    GuestTools guestTools() const override;
+    std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
+    std::optional<WifiStatus> wifiStatus() const override;
+    std::vector<WifiNetwork> wifiScan(const std::string& ssid, std::string& error) override;
+    void wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
+                       std::string& error) override;
+    std::vector<WifiSettings> wifiStoredProfiles() const override;
+    bool wifiStoreProfile(const WifiSettings& settings, std::string& error) override;
+};
+
+}  // namespace tvpolicy

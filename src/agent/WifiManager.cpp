@@ -1,0 +1,267 @@
+#include <tvpolicy/agent/WifiManager.h>
+
+#include <algorithm>
+#include <exception>
+#include <iostream>
+#include <optional>
+#include <vector>
+
+#include <unistd.h>
+
+#include <tvpolicy/host/NetworkProbe.h>
+#include <tvpolicy/host/Timestamp.h>
+
+namespace {
+
+using com::torvane::WifiConfigurationProfile;
+using tvpolicy::NetworkProbe;
+
+const char* const name8021X = "Gatewarden Configured 802.1x Profile";
+
+std::ostream& log() { return tvi::tslog(std::clog); }
+
+// Wide text holds one code point per character; it travels as UTF-8.
+std::string utf8(const std::wstring& text)
+{
+    std::string out;
+    for (wchar_t wide : text) {
+        auto c = static_cast<unsigned long>(wide);
+        if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+            c = 0xFFFD;
+        }
+        if (c < 0x80) {
+            out += static_cast<char>(c);
+        } else if (c < 0x800) {
+            out += static_cast<char>(0xC0 | (c >> 6));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        } else if (c < 0x10000) {
+            out += static_cast<char>(0xE0 | (c >> 12));
+            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        } else {
+            out += static_cast<char>(0xF0 | (c >> 18));
+            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        }
+    }
+    return out;
+}
+
+// UTF-8 to one wide character per code point; a byte that does not start a valid sequence
+// becomes U+FFFD.
+std::wstring wide(const std::string& text)
+{
+    std::wstring out;
+    std::size_t i = 0;
+    while (i < text.size()) {
+        auto byte = static_cast<unsigned char>(text[i]);
+        std::size_t length = byte < 0x80 ? 1 : (byte >> 5) == 0x6 ? 2 : (byte >> 4) == 0xE ? 3 : (byte >> 3) == 0x1E ? 4 : 0;
+        unsigned long c = length == 1 ? byte : length == 2 ? (byte & 0x1F) : length == 3 ? (byte & 0x0F) : (byte & 0x07);
+        bool valid = length != 0 && i + length <= text.size();
+        for (std::size_t k = 1; valid && k < length; ++k) {
+            auto next = static_cast<unsigned char>(text[i + k]);
+            valid = (next & 0xC0) == 0x80;
+            c = (c << 6) | (next & 0x3F);
+        }
+        const unsigned long least[] = {0, 0, 0x80, 0x800, 0x10000};
+        valid = valid && c >= least[length] && c <= 0x10FFFF && !(c >= 0xD800 && c <= 0xDFFF);
+        out += valid ? static_cast<wchar_t>(c) : L'\xFFFD';
+        i += valid ? length : 1;
+    }
+    return out;
+}
+
+// The log texts of one operation's scan and association.
+struct JoinTexts {
+    const char* alreadyConnected;
+    const char* signal;
+    const char* attempting;
+    const char* notFound;
+    const char* enterpriseError;
+    const char* personalError;
+    const char* completed;
+    const char* caught;
+};
+
+const JoinTexts connectTexts = {
+    "ConnectToNetwork Already connected to target ssid", "ConnectToProfile Signal: ",
+    "connectToProfile attempting associateToNetwork.", "ConnectToProfile Network Signal Not Found...",
+    "connectToProfile AssociateToEnterpriseNetwork NSError: ", "connectToProfile AssociateToEnterpriseNetwork NSError: ",
+    "connectToProfile associateToNetwork completed.", "ConnectToProfile: Caught "};
+
+const JoinTexts createTexts = {
+    "CreateModifyProfile Already connected to target ssid", "CreateModifyProfile Signal: ",
+    "CreateModifyProfile attempting associateToNetwork.", "CreateModifyProfile Network Signal Not Found...",
+    "CreateModifyProfile: AssociateToEnterpriseNetwork NSError: ", "CreateModifyProfile: AssociateToNetwork NSError: ",
+    "CreateModifyProfile: associateToNetwork completed.", "CreateModifyProfile: Caught "};
+
+std::string orNull(const std::string& text) { return text.empty() ? "(null)" : text; }
+
+bool offers(const NetworkProbe::WifiNetwork& network, int mode)
+{
+    return std::find(network.securityModes.begin(), network.securityModes.end(), mode) != network.securityModes.end();
+}
+
+std::optional<NetworkProbe::WifiStatus> wifiInterface(const char* operation)
+{
+    std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentNetwork().wifiStatus();
+    if (!status) {
+        log() << operation << ": no Wi-Fi interface" << std::endl;
+    }
+    return status;
+}
+
+// Scans for `ssid` and associates with the first network found, a bounded number of times,
+// until the interface is on it. True when it is, or ends, on the network.
+bool join(const std::string& ssid, const std::string& password, const JoinTexts& texts, const char* operation)
+{
+    NetworkProbe& network = tvpolicy::currentNetwork();
+    try {
+        std::optional<NetworkProbe::WifiStatus> status = wifiInterface(operation);
+        if (!status) {
+            return false;
+        }
+        if (status->ssid == ssid) {
+            log() << texts.alreadyConnected << std::endl;
+            return true;
+        }
+        log() << "Current SSID = " << orNull(status->ssid) << std::endl;
+        std::string error;
+        std::vector<NetworkProbe::WifiNetwork> found = network.wifiScan(ssid, error);
+        std::string listed;
+        for (const NetworkProbe::WifiNetwork& seen : found) {
+            listed += (listed.empty() ? "" : ", ") + seen.description;
+        }
+        log() << "Visible Networks: {(" << listed << ")}" << std::endl;
+        if (!error.empty()) {
+            log() << "NSError " << error << ":" << std::endl;
+        }
+        if (found.empty()) {
+            log() << texts.notFound << std::endl;
+            return false;
+        }
+        const NetworkProbe::WifiNetwork& target = found.front();
+        log() << texts.signal << target.description << std::endl;
+        log() << texts.attempting << std::endl;
+        bool enterprise = offers(target, 6) || offers(target, 5) || offers(target, 4);
+        for (int attempt = 0; attempt < WifiManager::associationAttempts; ++attempt) {
+            status = network.wifiStatus();
+            if (status && status->ssid == ssid) {
+                return true;
+            }
+            log() << "Current SSID 2 = " << orNull(status ? status->ssid : std::string()) << std::endl;
+            log() << texts.attempting << std::endl;
+            error.clear();
+            network.wifiAssociate(target, password, enterprise, error);
+            log() << (enterprise ? texts.enterpriseError : texts.personalError) << orNull(error) << std::endl;
+            log() << texts.completed << std::endl;
+        }
+        status = network.wifiStatus();
+        return status && status->ssid == ssid;
+    } catch (const std::exception& exception) {
+        log() << texts.caught << "exception: " << exception.what() << std::endl;
+        return false;
+    }
+}
+
+std::string eapWord(WifiConfigurationProfile::EAPType type)
+{
+    switch (type) {
+    case WifiConfigurationProfile::TLS: return "tls";
+    case WifiConfigurationProfile::LEAP: return "leap";
+    case WifiConfigurationProfile::TTLS: return "ttls";
+    case WifiConfigurationProfile::PEAP: return "peap";
+    case WifiConfigurationProfile::EAP_SIM: return "sim";
+    default: return "peap";
+    }
+}
+
+std::string describe(const NetworkProbe::WifiSettings& settings)
+{
+    return "<CWWirelessProfile: ssid=" + settings.ssid + " securityMode=" + std::to_string(settings.securityMode) +
+           " passphrase=" + (settings.passphrase.empty() ? "(null)" : "<hidden>") + ">";
+}
+
+}  // namespace
+
+std::wstring WifiManager::getCurrentProfileName() const { return wide(getCurrentProfileNameUtf8()); }
+
+std::string WifiManager::getCurrentProfileNameUtf8() const
+{
+    std::optional<NetworkProbe::WifiStatus> status = wifiInterface("getCurrentProfileName");
+    return status ? status->ssid : std::string();
+}
+
+std::string WifiManager::getCurrentBSSID() const
+{
+    std::optional<NetworkProbe::WifiStatus> status = wifiInterface("getCurrentBSSID");
+    return status ? status->bssid : std::string();
+}
+
+bool WifiManager::connectToProfile(std::wstring name, std::string password, WifiConfigurationProfile::Security,
+                                   std::wstring)
+{
+    std::string ssid = utf8(name);
+    log() << "ConnectToProfile Name: " << ssid << std::endl;
+    return join(ssid, password, connectTexts, "ConnectToProfile");
+}
+
+int WifiManager::getSecurityInt(WifiConfigurationProfile& profile) const
+{
+    switch (profile.getSecurity()) {
+    case WifiConfigurationProfile::WEP: return 1;
+    case WifiConfigurationProfile::WEP_ENTERPRISE: return 4;
+    case WifiConfigurationProfile::WPA: return 2;
+    case WifiConfigurationProfile::WPA_ENTERPRISE: return 5;
+    case WifiConfigurationProfile::WPA2: return 3;
+    case WifiConfigurationProfile::WPA2_ENTERPRISE: return 6;
+    default: return 0;
+    }
+}
+
+bool WifiManager::createModifyProfile(WifiConfigurationProfile& profile) const
+{
+    NetworkProbe::WifiSettings settings;
+    settings.securityMode = getSecurityInt(profile);
+    log() << "securityInt = " << settings.securityMode << std::endl;
+    log() << "kCWSecurityModeWPA2_Enterprise = " << kCWSecurityModeWPA2_Enterprise << std::endl;
+    log() << "GetUID == " << ::getuid() << std::endl;
+    settings.ssid = profile.getSSID();
+    settings.passphrase = profile.getPassword();
+    if (settings.securityMode >= 4) {
+        settings.eapMethod = eapWord(profile.getEapType());
+        settings.name8021X = name8021X;
+        log() << "CW8021XProfile: <CW8021XProfile: userDefinedName=" << name8021X << " ssid=" << settings.ssid
+              << " eap=" << settings.eapMethod << ">" << std::endl;
+    }
+    log() << "CWWirelessProfile: " << describe(settings) << std::endl;
+
+    // The profile is stored first, so that joining an enterprise network finds its 802.1X
+    // settings; an equal stored profile only ends the storing part.
+    NetworkProbe& network = tvpolicy::currentNetwork();
+    try {
+        if (!wifiInterface("CreateModifyProfile")) {
+            return false;
+        }
+        std::vector<NetworkProbe::WifiSettings> stored = network.wifiStoredProfiles();
+        if (std::find(stored.begin(), stored.end(), settings) != stored.end()) {
+            log() << "CreateModifyProfile: Specified Configuration Already Exists...exiting." << std::endl;
+        } else {
+            std::string error;
+            if (!network.wifiStoreProfile(settings, error)) {
+                log() << "CreateModifyProfile: commitConfiguration NSError: " << orNull(error) << std::endl;
+            }
+        }
+    } catch (const std::exception& exception) {
+        log() << createTexts.caught << "exception: " << exception.what() << std::endl;
+        return false;
+    }
+    return join(settings.ssid, settings.passphrase, createTexts, "CreateModifyProfile");
+}
+
+bool WifiManager::createModifyProfile(std::wstring, std::wstring, std::wstring) const { return false; }
+
+bool WifiManager::setProfilePosition(std::wstring, long) const { return false; }
+
+bool WifiManager::reconnect(long, long) const { return false; }

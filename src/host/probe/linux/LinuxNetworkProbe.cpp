@@ -1,0 +1,283 @@
+#include "host/probe/linux/LinuxNetworkProbe.h"
+
+#include <cerrno>
+#include <memory>
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <ifaddrs.h>
+#include <linux/if_arp.h>
+#include <linux/if_packet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/Utilities.h>
+
+#include "host/parse/NetText.h"
+#include "host/parse/ProcText.h"
+#include "host/probe/linux/NetworkManager.h"
+
+namespace tvpolicy {
+
+namespace {
+
+struct IfaddrsFree {
+    void operator()(ifaddrs* list) const { ::freeifaddrs(list); }
+};
+
+class Fd {
+public:
+    explicit Fd(int fd) : fd_(fd) {}
+    ~Fd()
+    {
+        if (fd_ >= 0) {
+            ::close(fd_);
+        }
+    }
+    Fd(const Fd&) = delete;
+    Fd& operator=(const Fd&) = delete;
+    int get() const { return fd_; }
+
+private:
+    int fd_;
+};
+
+// Reads a small sysfs attribute below `dir`; false (with errno) when it cannot be read.
+bool readAttribute(int dir, const char* name, std::string& text)
+{
+    Fd fd(::openat(dir, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (fd.get() < 0) {
+        return false;
+    }
+    char buffer[256];
+    ssize_t got;
+    do {
+        got = ::read(fd.get(), buffer, sizeof buffer);
+    } while (got < 0 && errno == EINTR);
+    if (got < 0) {
+        return false;
+    }
+    text.assign(buffer, static_cast<std::size_t>(got));
+    return true;
+}
+
+bool exists(int dir, const char* name) { return ::faccessat(dir, name, F_OK, 0) == 0; }
+
+// The interface's folder in /sys/class/net, or -1 with errno set.
+int interfaceFolder(const std::string& name)
+{
+    if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos) {
+        errno = ENODEV;
+        return -1;
+    }
+    return ::open(("/sys/class/net/" + name).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+std::string shellQuoted(const std::string& text)
+{
+    std::string quoted = "'";
+    for (char c : text) {
+        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    }
+    return quoted + "'";
+}
+
+std::string resolvConf()
+{
+    std::string path = currentHost().systemPath("/etc/resolv.conf");
+    Fd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    std::string text;
+    char buffer[4096];
+    while (fd.get() >= 0 && text.size() < 64 * 1024) {
+        ssize_t got = ::read(fd.get(), buffer, sizeof buffer);
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got <= 0) {
+            break;
+        }
+        text.append(buffer, static_cast<std::size_t>(got));
+    }
+    return text;
+}
+
+}  // namespace
+
+std::optional<std::vector<NetworkProbe::AddressEntry>> LinuxNetworkProbe::interfaceAddresses() const
+{
+    ifaddrs* raw = nullptr;
+    if (::getifaddrs(&raw) != 0) {
+        return std::nullopt;
+    }
+    std::unique_ptr<ifaddrs, IfaddrsFree> list(raw);
+    std::vector<AddressEntry> entries;
+    for (const ifaddrs* item = raw; item != nullptr; item = item->ifa_next) {
+        AddressEntry entry;
+        entry.name = item->ifa_name != nullptr ? item->ifa_name : "";
+        entry.flags = item->ifa_flags;
+        const sockaddr* address = item->ifa_addr;
+        char text[INET6_ADDRSTRLEN] = "";
+        if (address == nullptr) {
+            entry.family = Family::Other;
+        } else if (address->sa_family == AF_INET) {
+            entry.family = Family::IPv4;
+            if (::inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in*>(address)->sin_addr, text, sizeof text)) {
+                entry.address = text;
+            }
+        } else if (address->sa_family == AF_INET6) {
+            entry.family = Family::IPv6;
+            if (::inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6*>(address)->sin6_addr, text, sizeof text)) {
+                entry.address = text;
+            }
+        } else if (address->sa_family == AF_PACKET) {
+            entry.family = Family::Link;
+            entry.hardwareCandidate = reinterpret_cast<const sockaddr_ll*>(address)->sll_hatype == ARPHRD_ETHER;
+        }
+        entries.push_back(std::move(entry));
+    }
+    return entries;
+}
+
+std::optional<NetworkProbe::Hardware> LinuxNetworkProbe::interfaceHardware(const std::string& name) const
+{
+    Fd dir(interfaceFolder(name));
+    if (dir.get() < 0) {
+        // Gone since it was listed, or never there: no hardware, which is not a failure.
+        if (errno == ENOENT || errno == ENODEV || errno == ENOTDIR) {
+            return Hardware();
+        }
+        return std::nullopt;
+    }
+    Hardware hardware;
+    std::string text;
+    if (readAttribute(dir.get(), "address", text)) {
+        hardware.macAddress = parse::sysfsMacAddress(text);
+    }
+    if (!readAttribute(dir.get(), "type", text)) {
+        hardware.medium = "Unknown";
+    } else if (exists(dir.get(), "wireless") || exists(dir.get(), "phy80211")) {
+        hardware.medium = "Wireless";
+    } else if (parse::sysfsValue(text) == std::to_string(ARPHRD_ETHER)) {
+        hardware.medium = "Wired";
+    }
+    return hardware;
+}
+
+NetworkProbe::LinkState LinuxNetworkProbe::linkState(const std::string& name) const
+{
+    LinkState state;
+    Fd dir(interfaceFolder(name));
+    if (dir.get() < 0) {
+        state.error = errno;
+        return state;
+    }
+    std::string operstate;
+    if (!readAttribute(dir.get(), "operstate", operstate)) {
+        state.error = errno;
+        return state;
+    }
+    operstate = parse::sysfsValue(operstate);
+    // The carrier cannot be read while the interface is down (EINVAL): no link then.
+    std::string carrier;
+    bool carrierUp = readAttribute(dir.get(), "carrier", carrier) && parse::sysfsValue(carrier) == "1";
+    state.active = carrierUp && (operstate == "up" || operstate == "unknown");
+    return state;
+}
+
+std::string LinuxNetworkProbe::dnsSuffix() const
+{
+    NetworkManagerClient client;
+    if (std::optional<std::vector<std::string>> domains = client.resolvedDomains()) {
+        if (!domains->empty()) {
+            return domains->front();
+        }
+    }
+    std::string dhcp = client.dhcpDomainName();
+    if (!dhcp.empty()) {
+        return dhcp;
+    }
+    return parse::resolvConfDomains(resolvConf()).domain;
+}
+
+std::vector<std::string> LinuxNetworkProbe::dnsSearchDomains() const
+{
+    NetworkManagerClient client;
+    if (std::optional<std::vector<std::string>> domains = client.resolvedDomains()) {
+        return *domains;
+    }
+    return parse::resolvConfDomains(resolvConf()).search;
+}
+
+std::string LinuxNetworkProbe::bssidCommand() const
+{
+    return "for i in $(iw dev 2>/dev/null | awk '$1 == \"Interface\" { print $2 }'); do iw dev \"$i\" link 2>/dev/null; "
+           "done | awk '/^Connected to/ { printf \"%s\", $3; exit }'";
+}
+
+bool LinuxNetworkProbe::renewAddress(const std::string& name)
+{
+    NetworkManagerClient client;
+    if (client.reactivate(name)) {
+        return true;
+    }
+    return currentHost().runShellCommand("networkctl renew " + shellQuoted(name) + " 2>/dev/null") == 0;
+}
+
+NetworkProbe::GuestTools LinuxNetworkProbe::guestTools() const
+{
+    return {"VBoxSVC", "/usr/bin/VBoxManage", "vmware-vmx", "/usr/bin/vmrun"};
+}
+
+std::string LinuxNetworkProbe::commandOutput(const std::string& command, unsigned long bufferSize)
+{
+    return getOutputFromCommand(command, bufferSize);
+}
+
+std::optional<NetworkProbe::WifiStatus> LinuxNetworkProbe::wifiStatus() const
+{
+    NetworkManagerClient client;
+    auto device = client.wifiDevice();
+    if (!device) {
+        return std::nullopt;
+    }
+    return device->second;
+}
+
+std::vector<NetworkProbe::WifiNetwork> LinuxNetworkProbe::wifiScan(const std::string& ssid, std::string& error)
+{
+    NetworkManagerClient client;
+    return client.scan(ssid, error);
+}
+
+void LinuxNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
+                                      std::string& error)
+{
+    NetworkManagerClient client;
+    client.associate(network, password, enterprise, error);
+}
+
+std::vector<NetworkProbe::WifiSettings> LinuxNetworkProbe::wifiStoredProfiles() const
+{
+    NetworkManagerClient client;
+    std::vector<WifiSettings> profiles;
+    for (NetworkManagerClient::StoredWifi& stored : client.storedWifi()) {
+        profiles.push_back(std::move(stored.settings));
+    }
+    return profiles;
+}
+
+bool LinuxNetworkProbe::wifiStoreProfile(const WifiSettings& settings, std::string& error)
+{
+    NetworkManagerClient client;
+    return client.store(settings, error);
+}
+
+NetworkProbe& systemNetwork()
+{
+    static LinuxNetworkProbe probe;
+    return probe;
+}
+
+}  // namespace tvpolicy

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <tvpolicy/host/NetworkProbe.h>
+
+namespace tvpolicy {
+
+/// The network probe of Linux: getifaddrs, /sys/class/net, resolv.conf, and NetworkManager and
+/// systemd-resolved over the system bus.
+class LinuxNetworkProbe : public NetworkProbe {
+public:
+    std::optional<std::vector<AddressEntry>> interfaceAddresses() const override;
+    std::optional<Hardware> interfaceHardware(const std::string& name) const override;
+    LinkState linkState(const std::string& name) const override;
+    std::string dnsSuffix() const override;
+    std::vector<std::string> dnsSearchDomains() const override;
+    std::string bssidCommand() const override;
+    bool renewAddress(const std::string& name) override;
+    GuestTools guestTools() const override;
+    std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
+    std::optional<WifiStatus> wifiStatus() const override;
+    std::vector<WifiNetwork> wifiScan(const std::string& ssid, std::string& error) override;
+    void wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
+                       std::string& error) override;
+    std::vector<WifiSettings> wifiStoredProfiles() const override;
+    bool wifiStoreProfile(const WifiSettings& settings, std::string& error) override;
+};
+
+}  // namespace tvpolicy
