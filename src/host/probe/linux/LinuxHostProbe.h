@@ -25,6 +25,9 @@ public:
     std::string dnsFlushCommand() const override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
+    std::vector<unsigned char> dnsQuery(const std::string& name, int type,
+                                        const std::optional<NameServer>& server) const override;
+    std::string dnsDefaultDomain() const override;
 
 private:
     std::string osReleaseValue(const std::string& name) const;
