@@ -54,11 +54,6 @@ void applyBounds(CURL* handle, const HttpBounds& bounds)
     curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, bounds.protocols.c_str());
 }
 
-CurlList agentHeaderList()
-{
-    return CurlList(curl_slist_append(nullptr, agentHeader.c_str()));
-}
-
 // The text after the first "Set-Cookie: " of `text` up to the next carriage return (or the
 // end); nothing when the mark is absent.
 bool cookieIn(const std::string& text, std::string& cookie)
@@ -96,32 +91,88 @@ struct FileCloser {
 
 }  // namespace
 
-std::string* BasicHttpRequest::get(std::string url, std::string cookie, bool stripPreamble)
+HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::string& url,
+                                        const std::string& postFields, const std::string& cookie,
+                                        const std::string& path)
 {
+    using Op = HttpOperation;
     HttpBounds bounds = currentBounds();
-    std::string body;
-    std::string headers;
-    if (CurlHandle curl = tvpolicy::net::makeCurlHandle()) {
-        CURL* handle = curl.get();
-        BoundedText bodySink{&body, capOf(bounds)};
-        BoundedText headerSink{&headers, capOf(bounds)};
+    HttpTransfer result;
+    std::unique_ptr<std::FILE, FileCloser> file;
+    if (operation == Op::download) {
+        file.reset(std::fopen(path.c_str(), "wb"));
+        if (!file) {
+            result.error = "cannot open " + path + " for writing";
+            return result;  // libcurl would write through a null file
+        }
+    }
+    CurlHandle curl = tvpolicy::net::makeCurlHandle();
+    if (!curl) {
+        result.error = "cannot start a transfer";
+        return result;
+    }
+
+    // The options in the order the agent has always set them; get and test build the agent
+    // header too, but send none.
+    CURL* handle = curl.get();
+    bool collects = operation == Op::get || operation == Op::post;
+    BoundedText bodySink{&result.contents, capOf(bounds)};
+    BoundedText headerSink{&result.headers, capOf(bounds)};
+    BoundedFile fileSink{file.get(), bounds.maxBodyBytes};
+    char errorText[CURL_ERROR_SIZE] = {0};
+    if (collects) {
         curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &appendBounded);
         curl_easy_setopt(handle, CURLOPT_WRITEDATA, &bodySink);
         curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, &appendBounded);
         curl_easy_setopt(handle, CURLOPT_HEADERDATA, &headerSink);
-        CurlList unused = agentHeaderList();  // built like the others', then left off on purpose
-        curl_easy_setopt(handle, CURLOPT_HTTPHEADER, static_cast<curl_slist*>(nullptr));
-        curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);
-        curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
-        curl_easy_setopt(handle, CURLOPT_HTTPGET, 1L);
-        if (!cookie.empty()) {
-            curl_easy_setopt(handle, CURLOPT_COOKIE, cookie.c_str());
-        }
-        curl_easy_setopt(handle, CURLOPT_HEADER, 0L);
-        applyBounds(handle, bounds);
-        curl_easy_perform(handle);
+    } else if (operation == Op::download && bounds.enabled) {
+        curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &writeBoundedFile);
+        curl_easy_setopt(handle, CURLOPT_WRITEDATA, &fileSink);
+    } else if (operation == Op::download) {
+        curl_easy_setopt(handle, CURLOPT_WRITEDATA, file.get());
     }
+    if (operation == Op::post || operation == Op::download) {
+        curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
+    }
+    CurlList headerList(curl_slist_append(nullptr, agentHeader.c_str()));
+    bool sendsAgentHeader = operation == Op::post || operation == Op::download;
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, sendsAgentHeader ? headerList.get() : nullptr);
+    curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);
+    curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
+    if (operation == Op::get) {
+        curl_easy_setopt(handle, CURLOPT_HTTPGET, 1L);
+    } else if (operation == Op::post) {
+        curl_easy_setopt(handle, CURLOPT_POST, 1L);
+        curl_easy_setopt(handle, CURLOPT_POSTFIELDS, postFields.c_str());
+    } else if (operation == Op::head) {
+        curl_easy_setopt(handle, CURLOPT_NOBODY, 1L);
+    }
+    if (collects && !cookie.empty()) {
+        curl_easy_setopt(handle, CURLOPT_COOKIE, cookie.c_str());
+    }
+    if (operation == Op::post) {
+        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
+        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
+    }
+    curl_easy_setopt(handle, CURLOPT_HEADER, 0L);
+    applyBounds(handle, bounds);
 
+    CURLcode code = curl_easy_perform(handle);
+    curl_easy_getinfo(handle, CURLINFO_SSL_VERIFYRESULT, &result.verifyResult);
+    curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &result.responseCode);
+    result.completed = code == CURLE_OK;
+    if (bodySink.tooLarge || headerSink.tooLarge || code == CURLE_FILESIZE_EXCEEDED) {
+        result.error = "the answer is larger than " + std::to_string(bounds.maxBodyBytes) + " bytes";
+    } else if (!result.completed) {
+        result.error = errorText[0] != 0 ? errorText : curl_easy_strerror(code);
+    }
+    return result;
+}
+
+std::string* BasicHttpRequest::get(std::string url, std::string cookie, bool stripPreamble)
+{
+    // Whether the transfer succeeded is not looked at: what arrived is the body.
+    std::string body = transfer(HttpOperation::get, url, std::string(), cookie, std::string()).contents;
     auto result = std::make_unique<std::string>();
     if (stripPreamble) {
         std::size_t blank = body.size() >= 4 ? body.find("\r\n\r\n") : std::string::npos;
@@ -146,100 +197,29 @@ std::string* BasicHttpRequest::post(std::string url, std::string postFields, std
 
 std::map<std::string, std::string> BasicHttpRequest::post2(std::string url, std::string postFields, std::string cookie)
 {
-    HttpBounds bounds = currentBounds();
+    HttpTransfer done = transfer(HttpOperation::post, url, postFields, cookie, std::string());
     std::map<std::string, std::string> reply;
-    std::string contents;
-    std::string headers;
-    char errorText[CURL_ERROR_SIZE] = {0};
-    long verifyResult = 0;
-    long responseCode = 0;
-    if (CurlHandle curl = tvpolicy::net::makeCurlHandle()) {
-        CURL* handle = curl.get();
-        BoundedText bodySink{&contents, capOf(bounds)};
-        BoundedText headerSink{&headers, capOf(bounds)};
-        curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &appendBounded);
-        curl_easy_setopt(handle, CURLOPT_WRITEDATA, &bodySink);
-        curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, &appendBounded);
-        curl_easy_setopt(handle, CURLOPT_HEADERDATA, &headerSink);
-        curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
-        CurlList headerList = agentHeaderList();
-        curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headerList.get());
-        curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);
-        curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
-        curl_easy_setopt(handle, CURLOPT_POST, 1L);
-        curl_easy_setopt(handle, CURLOPT_POSTFIELDS, postFields.c_str());
-        if (!cookie.empty()) {
-            curl_easy_setopt(handle, CURLOPT_COOKIE, cookie.c_str());
-        }
-        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
-        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
-        curl_easy_setopt(handle, CURLOPT_HEADER, 0L);
-        applyBounds(handle, bounds);
-        curl_easy_perform(handle);
-        curl_easy_getinfo(handle, CURLINFO_SSL_VERIFYRESULT, &verifyResult);
-        curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &responseCode);
-    } else {
-        std::snprintf(errorText, sizeof errorText, "%s", "cannot start a transfer");
-    }
-    reply["verifyResult"] = std::to_string(verifyResult);
-    reply["responseCode"] = std::to_string(responseCode);
+    reply["verifyResult"] = std::to_string(done.verifyResult);
+    reply["responseCode"] = std::to_string(done.responseCode);
     std::string cookieText;
-    if (cookieIn(headers, cookieText)) {
+    if (cookieIn(done.headers, cookieText)) {
         reply["cookie"] = std::move(cookieText);
     }
-    reply["contents"] = std::move(contents);
-    reply["headers"] = std::move(headers);
-    reply["error"] = errorText;
+    reply["contents"] = std::move(done.contents);
+    reply["headers"] = std::move(done.headers);
+    reply["error"] = std::move(done.error);
     return reply;
 }
 
 long BasicHttpRequest::test(std::string url)
 {
-    HttpBounds bounds = currentBounds();
-    CurlHandle curl = tvpolicy::net::makeCurlHandle();
-    if (!curl) {
-        return 0;
-    }
-    CURL* handle = curl.get();
-    CurlList unused = agentHeaderList();  // built like the others', then left off on purpose
-    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, static_cast<curl_slist*>(nullptr));
-    curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);
-    curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
-    curl_easy_setopt(handle, CURLOPT_NOBODY, 1L);
-    curl_easy_setopt(handle, CURLOPT_HEADER, 0L);
-    applyBounds(handle, bounds);
-    long code = 0;
-    if (curl_easy_perform(handle) == CURLE_OK) {
-        curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &code);
-    }
-    return code;
+    HttpTransfer done = transfer(HttpOperation::head, url, std::string(), std::string(), std::string());
+    return done.completed ? done.responseCode : 0;
 }
 
 bool BasicHttpRequest::getBinary(std::string url, std::string path)
 {
-    HttpBounds bounds = currentBounds();
-    std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "wb"));
-    CurlHandle curl = file ? tvpolicy::net::makeCurlHandle() : CurlHandle();
-    if (!curl) {
-        return true;
-    }
-    CURL* handle = curl.get();
-    char errorText[CURL_ERROR_SIZE] = {0};
-    BoundedFile sink{file.get(), bounds.maxBodyBytes};
-    if (bounds.enabled) {
-        curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &writeBoundedFile);
-        curl_easy_setopt(handle, CURLOPT_WRITEDATA, &sink);
-    } else {
-        curl_easy_setopt(handle, CURLOPT_WRITEDATA, file.get());
-    }
-    curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
-    CurlList headerList = agentHeaderList();
-    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headerList.get());
-    curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);
-    curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
-    curl_easy_setopt(handle, CURLOPT_HEADER, 0L);
-    applyBounds(handle, bounds);
-    curl_easy_perform(handle);
+    transfer(HttpOperation::download, url, std::string(), std::string(), path);
     return true;
 }
 

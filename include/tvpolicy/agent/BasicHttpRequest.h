@@ -22,6 +22,19 @@ struct TVPOLICY_API HttpBounds {
     std::string protocols = "http,https";   ///< the schemes a URL may use (libcurl's list form)
 };
 
+/// The four requests of BasicHttpRequest.
+enum class HttpOperation { get, post, head, download };
+
+/// Everything one request of BasicHttpRequest::transfer learnt.
+struct TVPOLICY_API HttpTransfer {
+    bool completed = false;    ///< the transfer ran to its end (whatever the status)
+    long responseCode = 0;     ///< the last HTTP status; 0 when no answer came
+    long verifyResult = 0;     ///< the TLS peer verification result (0 = verified or not asked)
+    std::string contents;      ///< the body (not for head and download)
+    std::string headers;       ///< every header line as received (get and post only)
+    std::string error;         ///< why the transfer failed; empty when it completed
+};
+
 /// The agent's HTTP client: static operations, each making its own libcurl easy handle and
 /// performing one transfer on the calling thread. Calls may run on several threads at once.
 ///
@@ -59,6 +72,12 @@ public:
     static bool getBinary(std::string url, std::string path);
     /// Percent-encoding of libcurl (a blank gives %20); the text unchanged when that fails.
     static std::string urlEncode(std::string text);
+
+    /// The request that get (HttpOperation::get), post2 (post), test (head) or getBinary
+    /// (download, into `path`) makes, with the same options, returning everything libcurl
+    /// reported. For tools that need the status and error of any of them.
+    static HttpTransfer transfer(HttpOperation operation, const std::string& url, const std::string& postFields,
+                                 const std::string& cookie, const std::string& path);
 
     /// Turns the bounds on or off for every later operation of the process. Not meant to race
     /// with transfers in flight: those keep the bounds they started with.
