@@ -8,7 +8,6 @@ namespace tvpolicy::parse {
 namespace {
 
 constexpr std::size_t maxTargetLength = 254;  // what a 255-byte name buffer holds
-constexpr std::size_t maxKeyLength = 255;     // what a 256-byte key buffer holds
 
 // Calls `take` with every answer record of `type` and class IN in `message`, in order.
 template <typename Take>
@@ -69,8 +68,7 @@ std::vector<std::string> txtAnswers(const std::vector<unsigned char>& message)
             }
             std::string text(reinterpret_cast<const char*>(item), length);
             item += length;
-            std::size_t equals = text.find('=');
-            if (equals != std::string::npos && equals <= maxKeyLength) {
+            if (text.find('=') != std::string::npos) {
                 texts.push_back(std::move(text));
             }
         }

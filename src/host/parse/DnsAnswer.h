@@ -21,8 +21,8 @@ std::vector<SrvAnswer> srvAnswers(const std::vector<unsigned char>& message);
 
 /// The TXT items of the answer section of `message` that have a value, as "key=value" texts:
 /// records in message order, the items of each in their order. An item without "=" has no
-/// value and is skipped, as is one whose key is longer than 255 bytes. Values are copied byte
-/// for byte (they may hold any byte, zero included).
+/// value and is skipped. Values are copied byte for byte (they may hold any byte, zero
+/// included). An item that runs past the end of its record ends that record.
 std::vector<std::string> txtAnswers(const std::vector<unsigned char>& message);
 
 }  // namespace tvpolicy::parse
