@@ -58,9 +58,9 @@ int runPost(const HttpOptions& options, cli::Console& console)
             shown[key] = value;
         }
         console.out() << jsonText(shown) << '\n';
-    } else if (!options.output.empty()) {
+    } else if (outcome.completed && !options.output.empty()) {
         std::ofstream(options.output, std::ios::binary) << reply["contents"];
-    } else {
+    } else if (outcome.completed) {
         console.out() << reply["contents"];
     }
     if (!outcome.completed) {
@@ -101,10 +101,10 @@ int runHttp(const HttpOptions& options, cli::Console& console)
         console.out() << jsonText(shown) << '\n';
     } else if (operation == HttpOperation::head) {
         console.out() << outcome.responseCode << '\n';
-    } else if (operation == HttpOperation::get && !options.output.empty()) {
+    } else if (operation == HttpOperation::get && outcome.completed && !options.output.empty()) {
         std::ofstream(options.output, std::ios::binary) << outcome.contents;
-    } else if (operation == HttpOperation::get) {
-        console.out() << outcome.contents;
+    } else if (operation == HttpOperation::get && outcome.completed) {
+        console.out() << outcome.contents;  // a cut-off body is not shown as if it were the answer
     }
     if (!outcome.error.empty()) {
         console.err() << "tvpolicy http: " << outcome.error << '\n';
