@@ -33,20 +33,27 @@ const testing_support::TempDir& certificateDir()
     return dir;
 }
 
-// A port that was free a moment ago (the kernel's choice for a socket of `type`).
-int freePort(int type)
+// Binds `fd` to a port of 127.0.0.1 that the kernel picks, and returns that port.
+int bindLoopback(int fd)
 {
-    int fd = ::socket(AF_INET, type, 0);
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t length = sizeof address;
     if (fd < 0 || ::bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
         ::getsockname(fd, reinterpret_cast<sockaddr*>(&address), &length) != 0) {
-        throw std::runtime_error("no free port");
+        throw std::runtime_error("cannot bind a loopback port");
     }
-    ::close(fd);
     return ntohs(address.sin_port);
+}
+
+// A UDP port that was free a moment ago.
+int freeUdpPort()
+{
+    int fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    int port = bindLoopback(fd);
+    ::close(fd);
+    return port;
 }
 
 }  // namespace
@@ -148,7 +155,7 @@ void HttpPeer::remember(const httplib::Request& request)
                         count};
 }
 
-Dnsmasq::Dnsmasq(const std::vector<std::string>& records) : port_(freePort(SOCK_DGRAM))
+Dnsmasq::Dnsmasq(const std::vector<std::string>& records) : port_(freeUdpPort())
 {
     std::vector<std::string> argv = {"dnsmasq", "--keep-in-foreground", "--no-resolv", "--no-hosts",
                                      "--no-daemon", "--bind-interfaces", "--listen-address=127.0.0.1",
@@ -167,17 +174,9 @@ Dnsmasq::Dnsmasq(const std::vector<std::string>& records) : port_(freePort(SOCK_
     throw std::runtime_error("dnsmasq did not start");
 }
 
-SilentNameServer::SilentNameServer() : fd_(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)), port_(0)
+SilentNameServer::SilentNameServer()
+    : fd_(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)), port_(bindLoopback(fd_))
 {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t length = sizeof address;
-    if (fd_ < 0 || ::bind(fd_, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
-        ::getsockname(fd_, reinterpret_cast<sockaddr*>(&address), &length) != 0) {
-        throw std::runtime_error("cannot bind a UDP port");
-    }
-    port_ = ntohs(address.sin_port);
 }
 
 SilentNameServer::~SilentNameServer() { ::close(fd_); }
