@@ -142,3 +142,29 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
 }
 
 }  // namespace
+
+namespace {
+
+// Without --domain and --server, discover asks the system's resolver for the host's search
+// domain. Run in a network and mount namespace of the test's own, whose /etc/resolv.conf names a
+// dnsmasq on the namespace's loopback: the machine's own name server is never asked.
+TEST(DiscoverCommand, UsesTheSystemsResolverAndSearchDomain)
+{
+    if (testing_support::runProgram({"unshare", "-mn", "true"}).exitCode != 0) {
+        GTEST_SKIP() << "no permission to make network and mount namespaces";
+    }
+    testing_support::TempDir dir;
+    auto conf = dir.write("resolv.conf", "search corp.test other.test\nnameserver 127.0.0.1\n");
+    std::string script =
+        "ip link set lo up && mount --bind \"$1\" /etc/resolv.conf || exit 90\n"
+        "dnsmasq --keep-in-foreground --no-resolv --no-hosts --bind-interfaces --listen-address=127.0.0.1 "
+        "--port=53 --pid-file= --user=root --srv-host=_agent._tcp.corp.test,a.corp.test,443,1,1 "
+        "--txt-record=_agent._tcp.corp.test,ok=1 2>/dev/null &\n"
+        "for i in $(seq 200); do \"$2\" discover agent >/dev/null && break; sleep 0.05; done\n"
+        "\"$2\" discover agent; status=$?; kill $!; wait; exit $status\n";
+    auto result = testing_support::runProgram({"unshare", "-mn", "sh", "-c", script, "sh", conf.string(), TVPOLICY_CLI});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out, "SRV 1 1 443 a.corp.test\nTXT ok=1\n");
+}
+
+}  // namespace
