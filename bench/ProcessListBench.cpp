@@ -6,48 +6,21 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cerrno>
 #include <csignal>
-#include <fcntl.h>
-#include <spawn.h>
 #include <stdexcept>
 #include <string>
 #include <sys/wait.h>
 #include <vector>
 
-extern char** environ;
+#include "SpawnQuietly.h"
 
 namespace {
 
+using bench::spawnQuietly;
+using bench::waitFor;
+
 // At most 15 characters, so that pgrep searches (a longer name it refuses at once).
 const char* const absentName = "tvp-no-such-prc";
-
-// Starts `argv` with its output on /dev/null; the pid, or -1.
-pid_t spawnQuietly(const std::vector<const char*>& argv)
-{
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-    pid_t pid = -1;
-    std::vector<char*> args;
-    for (const char* arg : argv) {
-        args.push_back(const_cast<char*>(arg));
-    }
-    args.push_back(nullptr);
-    if (posix_spawnp(&pid, args[0], &actions, nullptr, args.data(), environ) != 0) {
-        pid = -1;
-    }
-    posix_spawn_file_actions_destroy(&actions);
-    return pid;
-}
-
-int waitFor(pid_t pid)
-{
-    int status = 0;
-    while (waitpid(pid, &status, 0) < 0 && errno == EINTR) {
-    }
-    return status;
-}
 
 // The extra processes, started on first use and stopped when the benchmarks end.
 class Crowd {

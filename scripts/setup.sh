@@ -6,10 +6,10 @@ set -euo pipefail
 
 packages=(
   build-essential cmake ninja-build pkg-config git
-  libxerces-c-dev libcurl4-openssl-dev libboost-dev libsystemd-dev
+  libxerces-c-dev libcurl4-gnutls-dev libboost-dev libsystemd-dev
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
-  dnsmasq-base iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo
+  dnsmasq-base bind9-dnsutils curl iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo
 )
 if [[ ${TVPOLICY_SETUP_TESTS:-0} == 1 ]]; then
   packages+=(chromium)

@@ -43,4 +43,18 @@ int FakeHost::runShellCommand(const std::string& command)
 
 void FakeHost::openURL(const std::string& url) { openedURLs.push_back(url); }
 
+std::vector<unsigned char> FakeHost::dnsQuery(const std::string& name, int type,
+                                              const std::optional<NameServer>& server) const
+{
+    std::string query = name + " " + std::to_string(type);
+    if (server) {
+        query += " @" + server->address + ":" + std::to_string(server->port);
+    }
+    dnsQueries.push_back(query);
+    auto found = dnsAnswers.find({name, type});
+    return found != dnsAnswers.end() ? found->second : std::vector<unsigned char>();
+}
+
+std::string FakeHost::dnsDefaultDomain() const { return searchDomain; }
+
 }  // namespace tvpolicy

@@ -34,6 +34,12 @@ public:
     std::vector<std::string> commandsRun;
     std::vector<std::string> openedURLs;   ///< every URL given to openURL, in order
 
+    /// Answer messages of dnsQuery by query name and type; an unlisted query gets none.
+    std::map<std::pair<std::string, int>, std::vector<unsigned char>> dnsAnswers;
+    std::string searchDomain;              ///< answered by dnsDefaultDomain()
+    /// Every dnsQuery as "name type" plus " @address:port" when a server was given, in order.
+    mutable std::vector<std::string> dnsQueries;
+
     std::string systemPath(const std::string& path) const override;
     std::string osProductVersion() const override;
     std::string osProductName() const override;
@@ -45,6 +51,9 @@ public:
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
+    std::vector<unsigned char> dnsQuery(const std::string& name, int type,
+                                        const std::optional<NameServer>& server) const override;
+    std::string dnsDefaultDomain() const override;
 };
 
 }  // namespace tvpolicy

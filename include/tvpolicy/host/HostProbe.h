@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <tvpolicy/export.h>
+#include <tvpolicy/host/NameServer.h>
 
 namespace tvpolicy {
 
@@ -81,6 +82,16 @@ public:
 
     /// Opens `url` in the user's browser; unchecked, returns at once when nothing opens it.
     virtual void openURL(const std::string& url) = 0;
+
+    /// One DNS query for `name`, record type `type` (33 SRV, 16 TXT ...), class IN, sent to
+    /// `server` when given, else to the system's name servers. The answer message as it came
+    /// (the library parses it); empty when none came within about five seconds or the name
+    /// server reported an error.
+    virtual std::vector<unsigned char> dnsQuery(const std::string& name, int type,
+                                                const std::optional<NameServer>& server) const = 0;
+    /// The first domain of the resolver's search list, which completes short names; empty
+    /// when there is none.
+    virtual std::string dnsDefaultDomain() const = 0;
 };
 
 /// The probe in use on this thread's process: the real backend unless a ScopedHost is alive.

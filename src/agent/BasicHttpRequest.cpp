@@ -1,0 +1,245 @@
+#include <tvpolicy/agent/BasicHttpRequest.h>
+
+#include <cstdio>
+#include <limits>
+#include <memory>
+#include <mutex>
+
+#include <tvpolicy/host/Machine.h>
+
+#include "net/CurlHandle.h"
+
+namespace com::torvane {
+
+namespace {
+
+using tvpolicy::net::appendBounded;
+using tvpolicy::net::BoundedText;
+using tvpolicy::net::CurlHandle;
+using tvpolicy::net::CurlList;
+
+const char* const compatibilityUserAgent = "KVA Agent";
+const std::string agentUserAgent = "Torvane-Agent/5.2.6.69 (" + Machine::getOSString() + ";)";
+const std::string agentHeader = "X-TVUserAgent: " + agentUserAgent;
+const std::string cookieMark = "Set-Cookie: ";
+
+std::mutex boundsMutex;
+HttpBounds processBounds;
+
+HttpBounds currentBounds()
+{
+    std::lock_guard<std::mutex> lock(boundsMutex);
+    return processBounds;
+}
+
+std::size_t capOf(const HttpBounds& bounds)
+{
+    return bounds.enabled ? bounds.maxBodyBytes : static_cast<std::size_t>(-1);
+}
+
+// The limits go on after the operation's own options; libcurl's defaults stay when they are off.
+// Signals are never used for time-outs, whatever the bounds.
+void applyBounds(CURL* handle, const HttpBounds& bounds)
+{
+    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    if (!bounds.enabled) {
+        return;
+    }
+    curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT_MS, bounds.connectTimeoutMs);
+    curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, bounds.totalTimeoutMs);
+    curl_easy_setopt(handle, CURLOPT_LOW_SPEED_LIMIT, bounds.lowSpeedBytesPerSecond);
+    curl_easy_setopt(handle, CURLOPT_LOW_SPEED_TIME, bounds.lowSpeedSeconds);
+    curl_easy_setopt(handle, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(bounds.maxBodyBytes));
+    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, bounds.protocols.c_str());
+    curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, bounds.protocols.c_str());
+}
+
+// The text after the first "Set-Cookie: " of `text` up to the next carriage return (or the
+// end); nothing when the mark is absent.
+bool cookieIn(const std::string& text, std::string& cookie)
+{
+    std::size_t mark = text.find(cookieMark);
+    if (mark == std::string::npos) {
+        return false;
+    }
+    std::size_t start = mark + cookieMark.size();
+    std::size_t end = text.find('\r', start);
+    cookie = text.substr(start, end == std::string::npos ? std::string::npos : end - start);
+    return true;
+}
+
+// A file written within the body cap, for getBinary when the bounds are on.
+struct BoundedFile {
+    std::FILE* file;
+    std::size_t left;
+};
+
+extern "C" std::size_t writeBoundedFile(char* data, std::size_t size, std::size_t count, void* target)
+{
+    auto* sink = static_cast<BoundedFile*>(target);
+    std::size_t bytes = size * count;
+    if (bytes > sink->left) {
+        return 0;
+    }
+    sink->left -= bytes;
+    return std::fwrite(data, 1, bytes, sink->file);
+}
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+}  // namespace
+
+HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::string& url,
+                                        const std::string& postFields, const std::string& cookie,
+                                        const std::string& path)
+{
+    using Op = HttpOperation;
+    HttpBounds bounds = currentBounds();
+    HttpTransfer result;
+    std::unique_ptr<std::FILE, FileCloser> file;
+    if (operation == Op::download) {
+        file.reset(std::fopen(path.c_str(), "wb"));
+        if (!file) {
+            result.error = "cannot open " + path + " for writing";
+            return result;  // libcurl would write through a null file
+        }
+    }
+    CurlHandle curl = tvpolicy::net::makeCurlHandle();
+    if (!curl) {
+        result.error = "cannot start a transfer";
+        return result;
+    }
+
+    // The options in the order the agent has always set them; get and test build the agent
+    // header too, but send none.
+    CURL* handle = curl.get();
+    bool collects = operation == Op::get || operation == Op::post;
+    BoundedText bodySink{&result.contents, capOf(bounds)};
+    BoundedText headerSink{&result.headers, capOf(bounds)};
+    BoundedFile fileSink{file.get(), bounds.maxBodyBytes};
+    char errorText[CURL_ERROR_SIZE] = {0};
+    if (collects) {
+        curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &appendBounded);
+        curl_easy_setopt(handle, CURLOPT_WRITEDATA, &bodySink);
+        curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, &appendBounded);
+        curl_easy_setopt(handle, CURLOPT_HEADERDATA, &headerSink);
+    } else if (operation == Op::download && bounds.enabled) {
+        curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &writeBoundedFile);
+        curl_easy_setopt(handle, CURLOPT_WRITEDATA, &fileSink);
+    } else if (operation == Op::download) {
+        curl_easy_setopt(handle, CURLOPT_WRITEDATA, file.get());
+    }
+    if (operation == Op::post || operation == Op::download) {
+        curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
+    }
+    CurlList headerList(curl_slist_append(nullptr, agentHeader.c_str()));
+    bool sendsAgentHeader = operation == Op::post || operation == Op::download;
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, sendsAgentHeader ? headerList.get() : nullptr);
+    curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);
+    curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
+    if (operation == Op::get) {
+        curl_easy_setopt(handle, CURLOPT_HTTPGET, 1L);
+    } else if (operation == Op::post) {
+        curl_easy_setopt(handle, CURLOPT_POST, 1L);
+        curl_easy_setopt(handle, CURLOPT_POSTFIELDS, postFields.c_str());
+    } else if (operation == Op::head) {
+        curl_easy_setopt(handle, CURLOPT_NOBODY, 1L);
+    }
+    if (collects && !cookie.empty()) {
+        curl_easy_setopt(handle, CURLOPT_COOKIE, cookie.c_str());
+    }
+    if (operation == Op::post) {
+        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
+        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
+    }
+    curl_easy_setopt(handle, CURLOPT_HEADER, 0L);
+    applyBounds(handle, bounds);
+
+    CURLcode code = curl_easy_perform(handle);
+    curl_easy_getinfo(handle, CURLINFO_SSL_VERIFYRESULT, &result.verifyResult);
+    curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &result.responseCode);
+    result.completed = code == CURLE_OK;
+    if (bodySink.tooLarge || headerSink.tooLarge || code == CURLE_FILESIZE_EXCEEDED) {
+        result.error = "the answer is larger than " + std::to_string(bounds.maxBodyBytes) + " bytes";
+    } else if (!result.completed) {
+        result.error = errorText[0] != 0 ? errorText : curl_easy_strerror(code);
+    }
+    return result;
+}
+
+std::string* BasicHttpRequest::get(std::string url, std::string cookie, bool stripPreamble)
+{
+    // Whether the transfer succeeded is not looked at: what arrived is the body.
+    std::string body = transfer(HttpOperation::get, url, std::string(), cookie, std::string()).contents;
+    auto result = std::make_unique<std::string>();
+    if (stripPreamble) {
+        std::size_t blank = body.size() >= 4 ? body.find("\r\n\r\n") : std::string::npos;
+        *result = blank == std::string::npos ? std::move(body) : body.substr(blank + 4);
+    } else {
+        cookieIn(body, *result);  // the body, not the headers: this is how the agent reads it
+    }
+    return result.release();
+}
+
+std::string* BasicHttpRequest::get(std::string, unsigned int, std::string, std::string, std::string, bool)
+{
+    return new std::string();
+}
+
+std::string* BasicHttpRequest::post(std::string url, std::string postFields, std::string cookie, bool wantContents)
+{
+    std::map<std::string, std::string> reply = post2(std::move(url), std::move(postFields), std::move(cookie));
+    auto found = reply.find(wantContents ? "contents" : "cookie");
+    return new std::string(found != reply.end() ? std::move(found->second) : std::string());
+}
+
+std::map<std::string, std::string> BasicHttpRequest::post2(std::string url, std::string postFields, std::string cookie)
+{
+    HttpTransfer done = transfer(HttpOperation::post, url, postFields, cookie, std::string());
+    std::map<std::string, std::string> reply;
+    reply["verifyResult"] = std::to_string(done.verifyResult);
+    reply["responseCode"] = std::to_string(done.responseCode);
+    std::string cookieText;
+    if (cookieIn(done.headers, cookieText)) {
+        reply["cookie"] = std::move(cookieText);
+    }
+    reply["contents"] = std::move(done.contents);
+    reply["headers"] = std::move(done.headers);
+    reply["error"] = std::move(done.error);
+    return reply;
+}
+
+long BasicHttpRequest::test(std::string url)
+{
+    HttpTransfer done = transfer(HttpOperation::head, url, std::string(), std::string(), std::string());
+    return done.completed ? done.responseCode : 0;
+}
+
+bool BasicHttpRequest::getBinary(std::string url, std::string path)
+{
+    transfer(HttpOperation::download, url, std::string(), std::string(), path);
+    return true;
+}
+
+std::string BasicHttpRequest::urlEncode(std::string text)
+{
+    CurlHandle curl = tvpolicy::net::makeCurlHandle();
+    if (!curl || text.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        return text;
+    }
+    std::unique_ptr<char, decltype(&curl_free)> escaped(
+        curl_easy_escape(curl.get(), text.data(), static_cast<int>(text.size())), &curl_free);
+    return escaped ? std::string(escaped.get()) : text;
+}
+
+void BasicHttpRequest::setBounds(const HttpBounds& bounds)
+{
+    std::lock_guard<std::mutex> lock(boundsMutex);
+    processBounds = bounds;
+}
+
+HttpBounds BasicHttpRequest::getBounds() { return currentBounds(); }
+
+}  // namespace com::torvane

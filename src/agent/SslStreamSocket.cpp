@@ -1,0 +1,9 @@
+#include <tvpolicy/agent/SslStreamSocket.h>
+
+namespace com::torvane {
+
+SslStreamSocket::SslStreamSocket() : StreamSocket() {}
+
+SslStreamSocket::~SslStreamSocket() = default;
+
+}  // namespace com::torvane

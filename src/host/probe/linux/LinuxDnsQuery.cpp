@@ -1,0 +1,82 @@
+// The DNS part of the Linux probe: one query through the resolver library, on a resolver state
+// of the call's own (res_nquery), so that lookups on several threads, each with its own name
+// server, never meet.
+#include "host/probe/linux/LinuxHostProbe.h"
+
+#include <cstring>
+
+#include <arpa/inet.h>
+#include <arpa/nameser.h>
+#include <netinet/in.h>
+#include <resolv.h>
+
+namespace tvpolicy {
+
+namespace {
+
+// The resolver's state for one call, released by res_nclose.
+class ResolverState {
+public:
+    ResolverState()
+    {
+        std::memset(&state_, 0, sizeof state_);
+        ready_ = ::res_ninit(&state_) == 0;
+    }
+    ~ResolverState() { ::res_nclose(&state_); }
+    ResolverState(const ResolverState&) = delete;
+    ResolverState& operator=(const ResolverState&) = delete;
+
+    bool ready() const { return ready_; }
+    res_state get() { return &state_; }
+
+private:
+    struct __res_state state_;
+    bool ready_ = false;
+};
+
+// One try of five seconds: a lookup that gets no answer gives up after about that long, however
+// many name servers the system lists.
+constexpr int answerWaitSeconds = 5;
+constexpr int tries = 1;
+
+}  // namespace
+
+std::vector<unsigned char> LinuxHostProbe::dnsQuery(const std::string& name, int type,
+                                                    const std::optional<NameServer>& server) const
+{
+    ResolverState resolver;
+    if (!resolver.ready()) {
+        return {};
+    }
+    res_state state = resolver.get();
+    state->retrans = answerWaitSeconds;
+    state->retry = tries;
+    if (server) {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_port = htons(server->port);
+        if (::inet_pton(AF_INET, server->address.c_str(), &address.sin_addr) != 1) {
+            return {};
+        }
+        state->nscount = 1;
+        state->nsaddr_list[0] = address;
+    }
+    std::vector<unsigned char> answer(NS_MAXMSG);
+    int length = ::res_nquery(state, name.c_str(), ns_c_in, type, answer.data(), static_cast<int>(answer.size()));
+    if (length <= 0) {
+        return {};
+    }
+    answer.resize(static_cast<std::size_t>(length) < answer.size() ? static_cast<std::size_t>(length) : answer.size());
+    return answer;
+}
+
+std::string LinuxHostProbe::dnsDefaultDomain() const
+{
+    ResolverState resolver;
+    if (!resolver.ready() || resolver.get()->dnsrch[0] == nullptr) {
+        return std::string();
+    }
+    return resolver.get()->dnsrch[0];
+}
+
+}  // namespace tvpolicy

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <vector>
+
+#include <sys/resource.h>
+
+#include "peers/LoopbackPeers.h"
+#include "support/RunCli.h"
+#include "support/TempDir.h"
+
+namespace {
+
+using testing_support::runCli;
+
+TEST(HttpCommand, ExitsByTheAnswer)
+{
+    peers::HttpPeer server;
+    struct Case {
+        std::vector<std::string> args;
+        int exitCode;
+        std::string out;
+        std::string errPart;
+    };
+    const std::vector<Case> cases = {
+        {{"get", server.url("/echo")}, 0, "hello", ""},
+        {{"get", server.url("/status/404")}, 1, "status", ""},
+        {{"get", server.url("/moved")}, 1, "moved", ""},
+        {{"head", server.url("/echo")}, 0, "200\n", ""},
+        {{"head", server.url("/status/503")}, 1, "503\n", ""},
+        {{"post", server.url("/echo"), "--data", "a=b"}, 0, "hello", ""},
+        {{"get", "http://127.0.0.1:1/"}, 2, "", "tvpolicy http: "},
+        {{"get", "file:///etc/hostname"}, 2, "", "Unsupported protocol"},
+        {{"get", server.url("/endless"), "--max-size", "100000"}, 2, "", "larger than 100000 bytes"},
+        {{"get", server.url("/stalled"), "--timeout", "0.5"}, 2, "", "Timeout was reached"},
+        {{"download", server.url("/binary")}, 2, "", "download needs -o FILE"},
+        {{"fetch", server.url("/echo")}, 2, "", ""},
+    };
+    for (const Case& c : cases) {
+        std::vector<std::string> args = {"http"};
+        args.insert(args.end(), c.args.begin(), c.args.end());
+        auto result = runCli(args);
+        EXPECT_EQ(result.exitCode, c.exitCode) << c.args[1] << ": " << result.err;
+        EXPECT_EQ(result.out.substr(0, 100), c.out) << c.args[1];
+        EXPECT_NE(result.err.find(c.errPart), std::string::npos) << c.args[1] << ": " << result.err;
+    }
+}
+
+TEST(HttpCommand, PostJsonShowsTheSixKeysWithTheServersCookie)
+{
+    peers::HttpPeer server;
+    auto result = runCli({"http", "post", server.url("/echo"), "--data", "k=v", "--cookie", "sid=1", "--json"});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    auto shown = nlohmann::json::parse(result.out);
+    EXPECT_EQ(shown.size(), 6u);
+    EXPECT_EQ(shown["cookie"], "session=abc; Path=/");
+    EXPECT_EQ(shown["contents"], "hello");
+    EXPECT_EQ(shown["responseCode"], "200");
+    EXPECT_EQ(shown["verifyResult"], "0");
+    EXPECT_EQ(shown["error"], "");
+    EXPECT_EQ(server.seen().body, "k=v");
+    EXPECT_EQ(server.seen().header("Cookie"), "sid=1");
+}
+
+TEST(HttpCommand, ReportsAnUntrustedCertificate)
+{
+    peers::HttpPeer server(true);
+    auto get = runCli({"http", "get", server.url("/echo")});
+    EXPECT_EQ(get.exitCode, 2);
+    EXPECT_NE(get.err.find("certificate"), std::string::npos) << get.err;
+    auto post = runCli({"http", "post", server.url("/echo"), "--json"});
+    EXPECT_EQ(post.exitCode, 2);
+    auto shown = nlohmann::json::parse(post.out);
+    EXPECT_NE(shown["verifyResult"], "0");
+    EXPECT_NE(shown["error"].get<std::string>().find("certificate"), std::string::npos) << post.out;
+}
+
+TEST(HttpCommand, DownloadsIntoAFile)
+{
+    peers::HttpPeer server;
+    testing_support::TempDir dir;
+    auto file = dir.path() / "out.bin";
+    auto result = runCli({"http", "download", server.url("/binary"), "-o", file.string()});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(testing_support::readFile(file).size(), 1024u);
+    result = runCli({"http", "download", server.url("/binary"), "-o", (dir.path() / "no" / "f").string()});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_NE(result.err.find("cannot open"), std::string::npos) << result.err;
+}
+
+// An endless answer ends at the body cap: the program's memory stays far below what the
+// stream would have grown it to within the time limit.
+TEST(HttpCommand, EndlessAnswerStaysWithinTheCap)
+{
+    peers::HttpPeer server;
+    auto result = runCli({"http", "get", server.url("/endless"), "--max-size", "8000000", "--timeout", "20"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_NE(result.err.find("larger than 8000000 bytes"), std::string::npos) << result.err;
+    rusage usage{};
+    ::getrusage(RUSAGE_CHILDREN, &usage);
+    EXPECT_LT(usage.ru_maxrss, 100 * 1024) << "kB";  // the largest child so far
+}
+
+TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
+{
+    peers::Dnsmasq dns({
+        "--srv-host=_agent._tcp.corp.test,b.corp.test,443,10,60",
+        "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,20",
+        "--srv-host=_agent._tcp.corp.test,z.corp.test,8443,1,99",
+        "--txt-record=_agent._tcp.corp.test,server=a.corp.test,port=443",
+    });
+    auto result = runCli({"discover", "agent", "--domain", "corp.test", "--server", dns.address()});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out, "SRV 1 99 8443 z.corp.test\nSRV 10 20 443 a.corp.test\nSRV 10 60 443 b.corp.test\n"
+                          "TXT server=a.corp.test\nTXT port=443\n");
+
+    result = runCli({"discover", "agent", "--domain", "corp.test", "--server", dns.address(), "--json"});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    auto shown = nlohmann::json::parse(result.out);
+    EXPECT_EQ(shown["name"], "_agent._tcp.corp.test");
+    ASSERT_EQ(shown["srv"].size(), 3u);
+    EXPECT_EQ(shown["srv"][1], (nlohmann::json{{"priority", 10}, {"weight", 20}, {"port", 443}, {"target", "a.corp.test"}}));
+    EXPECT_EQ(shown["txt"], (nlohmann::json{"server=a.corp.test", "port=443"}));
+
+    struct Case {
+        std::vector<std::string> args;
+        int exitCode;
+    };
+    const std::vector<Case> cases = {
+        {{"discover", "other", "--domain", "corp.test", "--server", dns.address()}, 1},
+        {{"discover", "agent", "--proto", "udp", "--domain", "corp.test", "--server", dns.address()}, 1},
+        {{"discover", "agent", "--domain", "corp.test", "--server", "ns.corp.test"}, 2},
+        {{"discover", "agent", "--domain", "corp.test", "--server", "127.0.0.1:0"}, 2},
+        {{"discover"}, 2},
+    };
+    for (const Case& c : cases) {
+        result = runCli(c.args);
+        EXPECT_EQ(result.exitCode, c.exitCode) << c.args.back() << ": " << result.err;
+        EXPECT_EQ(result.out, "");
+    }
+}
+
+}  // namespace
+
+namespace {
+
+// Without --domain and --server, discover asks the system's resolver for the host's search
+// domain. Run in a network and mount namespace of the test's own, whose /etc/resolv.conf names a
+// dnsmasq on the namespace's loopback: the machine's own name server is never asked.
+TEST(DiscoverCommand, UsesTheSystemsResolverAndSearchDomain)
+{
+    if (testing_support::runProgram({"unshare", "-mn", "true"}).exitCode != 0) {
+        GTEST_SKIP() << "no permission to make network and mount namespaces";
+    }
+    testing_support::TempDir dir;
+    auto conf = dir.write("resolv.conf", "search corp.test other.test\nnameserver 127.0.0.1\n");
+    std::string script =
+        "ip link set lo up && mount --bind \"$1\" /etc/resolv.conf || exit 90\n"
+        "dnsmasq --keep-in-foreground --no-resolv --no-hosts --bind-interfaces --listen-address=127.0.0.1 "
+        "--port=53 --pid-file= --user=root --srv-host=_agent._tcp.corp.test,a.corp.test,443,1,1 "
+        "--txt-record=_agent._tcp.corp.test,ok=1 2>/dev/null &\n"
+        "for i in $(seq 200); do \"$2\" discover agent >/dev/null && break; sleep 0.05; done\n"
+        "\"$2\" discover agent; status=$?; kill $!; wait; exit $status\n";
+    auto result = testing_support::runProgram({"unshare", "-mn", "sh", "-c", script, "sh", conf.string(), TVPOLICY_CLI});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out, "SRV 1 1 443 a.corp.test\nTXT ok=1\n");
+}
+
+}  // namespace
