@@ -1,0 +1,31 @@
+#include "host/probe/darwin/DarwinApplications.h"
+
+#include <cstdio>
+#include <memory>
+
+namespace tvpolicy::darwin {
+
+namespace {
+
+struct PipeCloser {
+    void operator()(FILE* pipe) const { ::pclose(pipe); }
+};
+
+}  // namespace
+
+std::string applicationsPropertyList()
+{
+    std::unique_ptr<FILE, PipeCloser> pipe(::popen("system_profiler -xml SPApplicationsDataType", "r"));
+    std::string output;
+    if (!pipe) {
+        return output;
+    }
+    char chunk[1024];
+    std::size_t got;
+    while ((got = std::fread(chunk, 1, sizeof chunk, pipe.get())) > 0) {
+        output.append(chunk, got);
+    }
+    return output;
+}
+
+}  // namespace tvpolicy::darwin

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <Security/Authorization.h>
+
+#include <tvpolicy/host/NetworkProbe.h>
+
+namespace tvpolicy {
+
+/// The network probe of macOS: getifaddrs, the I/O registry (BSD-name matching, the
+/// controller's medium dictionary and MAC address), SIOCGIFMEDIA, the SystemConfiguration
+/// dynamic store and preferences, and CoreWLAN through the Objective-C runtime.
+class DarwinNetworkProbe : public NetworkProbe {
+public:
+    std::optional<std::vector<AddressEntry>> interfaceAddresses() const override;
+    std::optional<Hardware> interfaceHardware(const std::string& name) const override;
+    LinkState linkState(const std::string& name) const override;
+    std::string dnsSuffix() const override;
+    std::vector<std::string> dnsSearchDomains() const override;
+    std::string bssidCommand() const override;
+    bool renewAddress(const std::string& name) override;
+    GuestTools guestTools() const override;
+    std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
+    std::optional<WifiStatus> wifiStatus() const override;
+    std::vector<WifiNetwork> wifiScan(const std::string& ssid, std::string& error) override;
+    void wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
+                       std::string& error) override;
+    std::vector<WifiSettings> wifiStoredProfiles() const override;
+    bool wifiStoreProfile(const WifiSettings& settings, std::string& error) override;
+
+    /// The configuration refresh of `name` through the preferences opened with `authorization`
+    /// (the services of the current set); false at once for a null authorization.
+    static bool renewAddressWithAuthorization(const std::string& name, AuthorizationRef authorization);
+};
+
+}  // namespace tvpolicy
