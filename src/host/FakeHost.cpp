@@ -43,4 +43,6 @@ int FakeHost::runShellCommand(const std::string& command)
 
 void FakeHost::openURL(const std::string& url) { openedURLs.push_back(url); }
 
+HostProbe::ApplicationListing FakeHost::applicationListing() const { return applications; }
+
 }  // namespace tvpolicy

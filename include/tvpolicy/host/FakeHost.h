@@ -33,6 +33,7 @@ public:
     /// Every command given to runShellCommand or commandOutput, in order; none is run.
     std::vector<std::string> commandsRun;
     std::vector<std::string> openedURLs;   ///< every URL given to openURL, in order
+    ApplicationListing applications;       ///< answered by applicationListing()
 
     std::string systemPath(const std::string& path) const override;
     std::string osProductVersion() const override;
@@ -45,6 +46,7 @@ public:
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
+    ApplicationListing applicationListing() const override;
 };
 
 }  // namespace tvpolicy

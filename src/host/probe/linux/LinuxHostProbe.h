@@ -26,6 +26,8 @@ public:
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
+    /// The dpkg status database when there is one, else what rpm lists when it is installed.
+    ApplicationListing applicationListing() const override;
 
 private:
     std::string osReleaseValue(const std::string& name) const;
