@@ -10,6 +10,7 @@ packages=(
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
   dnsmasq-base iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo
+  systemd  # busctl, which the D-Bus peer tests drive their mocks with
 )
 if [[ ${TVPOLICY_SETUP_TESTS:-0} == 1 ]]; then
   packages+=(chromium)
