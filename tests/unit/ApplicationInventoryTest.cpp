@@ -63,6 +63,17 @@ TEST(ProfilerApplications, ItemsOfTheApplicationsDataTypeWithProgressLines)
     EXPECT_EQ(err.str(), "It's an array!\n");
 }
 
+std::string nested(int depth)
+{
+    std::string open;
+    std::string close;
+    for (int i = 0; i < depth; ++i) {
+        open += "<array>";
+        close += "</array>";
+    }
+    return open + close;
+}
+
 TEST(ProfilerApplications, OtherRootsAndBrokenDocumentsGiveNothing)
 {
     struct Case {
@@ -76,6 +87,7 @@ TEST(ProfilerApplications, OtherRootsAndBrokenDocumentsGiveNothing)
              {"not XML", "system_profiler: command not found\n", true},
              {"cut short", profilerOutput.substr(0, profilerOutput.size() / 2), true},
              {"not a plist", "<array><dict/></array>", true},
+             {"nested 5000 deep", plist(nested(5000)), true},
          }) {
         std::ostringstream out;
         std::ostringstream err;
