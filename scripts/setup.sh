@@ -11,6 +11,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
   clang libc++-dev libc++abi-dev
   dnsmasq-base bind9-dnsutils curl iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo
+  systemd  # busctl, which the D-Bus peer tests drive their mocks with
 )
 if [[ ${TVPOLICY_SETUP_TESTS:-0} == 1 ]]; then
   packages+=(chromium)

@@ -57,4 +57,6 @@ std::vector<unsigned char> FakeHost::dnsQuery(const std::string& name, int type,
 
 std::string FakeHost::dnsDefaultDomain() const { return searchDomain; }
 
+HostProbe::ApplicationListing FakeHost::applicationListing() const { return applications; }
+
 }  // namespace tvpolicy

@@ -16,6 +16,8 @@ std::atomic<HostProbe*>& current()
 
 HostProbe::~HostProbe() = default;
 
+HostProbe::ApplicationListing HostProbe::applicationListing() const { return {}; }
+
 HostProbe& currentHost()
 {
     HostProbe* probe = current().load(std::memory_order_acquire);

@@ -2,28 +2,11 @@
 
 #include <vector>
 
+#include "host/CdataElement.h"
+
 namespace com::torvane::api {
 
-namespace {
-
-// <name><![CDATA[value]]></name>, or <name></name> for an empty value. Values come from the
-// system and are not escaped further.
-void element(std::string& out, const char* name, const std::string& value)
-{
-    out += '<';
-    out += name;
-    out += '>';
-    if (!value.empty()) {
-        out += "<![CDATA[";
-        out += value;
-        out += "]]>";
-    }
-    out += "</";
-    out += name;
-    out += '>';
-}
-
-}  // namespace
+using tvpolicy::appendCdataElement;
 
 std::string getNetworkInterfacesXML(std::string mode)
 {
@@ -52,29 +35,29 @@ std::string getNetworkInterfaceXML(const NetworkInterface* interface)
         return std::string();
     }
     std::string out = "<interface>";
-    element(out, "mac", interface->getMACAddress());
+    appendCdataElement(out, "mac", interface->getMACAddress());
     std::vector<std::string> addresses;
     interface->getIPv4Addresses(addresses);
     for (const std::string& address : addresses) {
-        element(out, "ip", address);
+        appendCdataElement(out, "ip", address);
     }
     interface->getIPv6Addresses(addresses);
     for (const std::string& address : addresses) {
-        element(out, "ipv6", address);
+        appendCdataElement(out, "ipv6", address);
     }
-    element(out, "desc", interface->getDescription());
-    element(out, "medium", interface->getMedium());
-    element(out, "name", interface->getName());
-    element(out, "suffix", interface->getDNSSuffix());
+    appendCdataElement(out, "desc", interface->getDescription());
+    appendCdataElement(out, "medium", interface->getMedium());
+    appendCdataElement(out, "name", interface->getName());
+    appendCdataElement(out, "suffix", interface->getDNSSuffix());
     if (!interface->getESSID().empty()) {
-        element(out, "essid", interface->getESSID());
+        appendCdataElement(out, "essid", interface->getESSID());
     }
     if (!interface->getBSSID().empty()) {
-        element(out, "bssid", interface->getBSSID());
+        appendCdataElement(out, "bssid", interface->getBSSID());
     }
     out += interface->isUp() ? "<operstatus>UP</operstatus>" : "<operstatus>DOWN</operstatus>";
     if (interface->isVirtualGuest()) {
-        element(out, "vm", interface->getVMName());
+        appendCdataElement(out, "vm", interface->getVMName());
     }
     out += "</interface>";
     return out;

@@ -11,7 +11,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "support/ChildProcess.h"
+#include "support/PrivateBus.h"
 #include "support/RunCli.h"
 #include "support/TempDir.h"
 
@@ -25,69 +25,28 @@ const char* const device = "/org/freedesktop/NetworkManager/Devices/wifi0";
 constexpr unsigned keyMgmtPsk = 0x100;
 constexpr unsigned keyMgmt8021X = 0x200;
 
-class MockedNetworkManager : public testing::Test {
+class MockedNetworkManager : public testing_support::PrivateBusTest {
 protected:
     void SetUp() override
     {
-        if (::access("/usr/bin/dbus-daemon", X_OK) != 0 ||
-            std::system("/usr/bin/python3 -c 'import dbusmock' >/dev/null 2>&1") != 0) {
-            GTEST_SKIP() << "dbus-daemon or python3-dbusmock is not installed";
+        PrivateBusTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
         }
-        socket = (tmp.path() / "bus").string();
-        std::string config = tmp.write("bus.conf",
-            "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-BUS Bus Configuration 1.0//EN\" "
-            "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-            "<busconfig><type>system</type><listen>unix:path=" + socket + "</listen><auth>EXTERNAL</auth>"
-            "<policy context=\"default\"><allow user=\"*\"/><allow own=\"*\"/><allow send_destination=\"*\"/>"
-            "<allow receive_sender=\"*\"/></policy></busconfig>\n").string();
-        daemon = std::make_unique<testing_support::ChildProcess>(
-            std::vector<std::string>{"dbus-daemon", "--config-file=" + config, "--nofork"});
-        for (int i = 0; i < 100 && !std::filesystem::exists(socket); ++i) {
-            ::usleep(50'000);
-        }
-        ASSERT_TRUE(std::filesystem::exists(socket)) << "the bus did not start";
-        const char* previous = std::getenv("DBUS_SYSTEM_BUS_ADDRESS");
-        savedAddress = previous != nullptr ? std::optional<std::string>(previous) : std::nullopt;
-        ::setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + socket).c_str(), 1);
-        mock = std::make_unique<testing_support::ChildProcess>(
-            std::vector<std::string>{"/usr/bin/python3", "-m", "dbusmock", "--template", "networkmanager"});
-        bool ready = false;
-        for (int i = 0; i < 200 && !ready; ++i) {
-            ready = busctl({"call", "org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager",
-                            "org.freedesktop.NetworkManager", "GetDevices"}).exitCode == 0;
-            if (!ready) {
-                ::usleep(50'000);
-            }
-        }
-        ASSERT_TRUE(ready) << "the NetworkManager mock did not come up";
+        ASSERT_TRUE(bus.startMock("networkmanager", {"org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager",
+                                                     "org.freedesktop.NetworkManager", "GetDevices"}))
+            << "the NetworkManager mock did not come up";
     }
 
-    void TearDown() override
-    {
-        mock.reset();
-        daemon.reset();
-        if (savedAddress) {
-            ::setenv("DBUS_SYSTEM_BUS_ADDRESS", savedAddress->c_str(), 1);
-        } else {
-            ::unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
-        }
-    }
-
-    CliResult busctl(std::vector<std::string> args)
-    {
-        args.insert(args.begin(), {"busctl", "--address=unix:path=" + socket, "--json=short"});
-        return runProgram(args);
-    }
+    CliResult busctl(const std::vector<std::string>& args) { return bus.busctl(args); }
 
     // A method of the mock's control interface; its JSON reply.
     Json control(const std::string& method, const std::string& signature, const std::vector<std::string>& args)
     {
-        std::vector<std::string> call = {"call", "org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager",
+        std::vector<std::string> call = {"org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager",
                                          "org.freedesktop.DBus.Mock", method, signature};
         call.insert(call.end(), args.begin(), args.end());
-        CliResult result = busctl(call);
-        EXPECT_EQ(result.exitCode, 0) << method << ": " << result.err;
-        return result.out.empty() ? Json() : Json::parse(result.out);
+        return bus.call(call);
     }
 
     void addWifiDevice() { control("AddWiFiDevice", "ssi", {"wifi0", "wlan0", "100"}); }
@@ -118,10 +77,6 @@ protected:
     }
 
     testing_support::TempDir tmp;
-    std::string socket;
-    std::optional<std::string> savedAddress;
-    std::unique_ptr<testing_support::ChildProcess> daemon;
-    std::unique_ptr<testing_support::ChildProcess> mock;
 };
 
 TEST_F(MockedNetworkManager, StatusShowsTheActiveAccessPoint)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +14,8 @@ namespace testing_support {
 class ChildProcess {
 public:
     explicit ChildProcess(const std::vector<std::string>& argv);
+    /// With `captureOutput`, its standard output is a pipe that readLine reads.
+    ChildProcess(const std::vector<std::string>& argv, bool captureOutput);
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
@@ -23,9 +27,20 @@ public:
     /// Kills it (if still running) and reaps it.
     void stop();
 
+    /// The next line it writes to its captured standard output, without the newline; nothing
+    /// when none came within `timeout` or the output ended.
+    std::optional<std::string> readLine(std::chrono::milliseconds timeout);
+    /// Sends `signal` and waits at most `timeout` for it to exit: its exit status (128 + the
+    /// signal that ended it), or nothing when it still ran (it is then killed).
+    std::optional<int> signalAndWait(int signal, std::chrono::milliseconds timeout);
+
 private:
+    void spawn(const std::vector<std::string>& argv, bool captureOutput);
+
     pid_t pid_ = -1;
     bool exited_ = false;
+    int output_ = -1;
+    std::string pending_;
 };
 
 }  // namespace testing_support

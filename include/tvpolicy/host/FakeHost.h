@@ -33,6 +33,7 @@ public:
     /// Every command given to runShellCommand or commandOutput, in order; none is run.
     std::vector<std::string> commandsRun;
     std::vector<std::string> openedURLs;   ///< every URL given to openURL, in order
+    ApplicationListing applications;       ///< answered by applicationListing()
 
     /// Answer messages of dnsQuery by query name and type; an unlisted query gets none.
     std::map<std::pair<std::string, int>, std::vector<unsigned char>> dnsAnswers;
@@ -54,6 +55,7 @@ public:
     std::vector<unsigned char> dnsQuery(const std::string& name, int type,
                                         const std::optional<NameServer>& server) const override;
     std::string dnsDefaultDomain() const override;
+    ApplicationListing applicationListing() const override;
 };
 
 }  // namespace tvpolicy

@@ -46,6 +46,18 @@ public:
         std::optional<std::string> serialNumber;
     };
 
+    /// The host's record of installed applications, as its own database or tool gives it.
+    struct ApplicationListing {
+        enum class Format {
+            None,          ///< the host has no source
+            PropertyList,  ///< the system profiler's XML property list of applications
+            DpkgStatus,    ///< Debian's package status database (/var/lib/dpkg/status)
+            RpmQuery,      ///< lines of name, a tab and version, as an rpm query prints them
+        };
+        Format format = Format::None;
+        std::string text;
+    };
+
     virtual ~HostProbe();
 
     /// Where a fixed system path (such as /Library/Receipts/) is found on this host. The real
@@ -92,6 +104,9 @@ public:
     /// The first domain of the resolver's search list, which completes short names; empty
     /// when there is none.
     virtual std::string dnsDefaultDomain() const = 0;
+    /// The record of installed applications, read afresh; Format::None (what this base class
+    /// answers) when the host has none.
+    virtual ApplicationListing applicationListing() const;
 };
 
 /// The probe in use on this thread's process: the real backend unless a ScopedHost is alive.

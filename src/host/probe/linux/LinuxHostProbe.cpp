@@ -233,6 +233,25 @@ void LinuxHostProbe::openURL(const std::string& url)
     static_cast<void>(status);
 }
 
+HostProbe::ApplicationListing LinuxHostProbe::applicationListing() const
+{
+    // The status database of a large system is a few megabytes; this bounds a runaway file.
+    constexpr std::size_t statusLimit = 256u << 20;
+    ApplicationListing listing;
+    if (readAt(AT_FDCWD, (root_ + "/var/lib/dpkg/status").c_str(), statusLimit, listing.text)) {
+        listing.format = ApplicationListing::Format::DpkgStatus;
+        return listing;
+    }
+    listing.text.clear();
+    std::string rpm = root_ + "/usr/bin/rpm";
+    if (::access(rpm.c_str(), X_OK) == 0) {
+        listing.format = ApplicationListing::Format::RpmQuery;
+        listing.text = getOutputFromCommand(
+            shellQuoted(rpm) + " -qa --qf '%{NAME}\\t%|EPOCH?{%{EPOCH}:}:{}|%{VERSION}-%{RELEASE}\\n' 2>/dev/null", 8192);
+    }
+    return listing;
+}
+
 HostProbe& systemHost()
 {
     static LinuxHostProbe probe;

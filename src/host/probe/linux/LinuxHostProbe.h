@@ -29,6 +29,8 @@ public:
     std::vector<unsigned char> dnsQuery(const std::string& name, int type,
                                         const std::optional<NameServer>& server) const override;
     std::string dnsDefaultDomain() const override;
+    /// The dpkg status database when there is one, else what rpm lists when it is installed.
+    ApplicationListing applicationListing() const override;
 
 private:
     std::string osReleaseValue(const std::string& name) const;

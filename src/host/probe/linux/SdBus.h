@@ -27,6 +27,9 @@ public:
     SystemBus& operator=(const SystemBus&) = delete;
 
     bool connected() const { return bus_ != nullptr; }
+    /// The connection itself, for matches and an event loop of the caller's; null when not
+    /// connected. It stays owned by this object.
+    sd_bus* handle() const { return bus_; }
     /// The error of the last call that failed.
     const std::string& lastError() const { return error_; }
 
