@@ -9,6 +9,7 @@ packages=(
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
   dnsmasq-base iproute2 procps findutils python3 python3-dbusmock dbus
+  clang libclang-rt-dev llvm
 )
 
 missing=()
