@@ -6,6 +6,9 @@ option(TVPOLICY_SANITIZE_THREAD "Build with ThreadSanitizer" OFF)
 option(TVPOLICY_BUILD_FUZZ "Build the libFuzzer targets in fuzz/ (Clang only)" OFF)
 
 set(_sanitizers "")
+# How the shared library is linked: every symbol resolved, unless a sanitizer's runtime is left
+# to the executables.
+set(TVPOLICY_NO_UNDEFINED "-Wl,--no-undefined")
 if(TVPOLICY_SANITIZE OR TVPOLICY_BUILD_FUZZ)
   set(_sanitizers "address,undefined")
 endif()
@@ -27,7 +30,11 @@ if(_sanitizers)
     # Coverage feedback everywhere; only the fuzz targets link libFuzzer's main.
     add_compile_options(-fsanitize=fuzzer-no-link)
   endif()
-  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang" AND TVPOLICY_SANITIZE_THREAD)
+    # Clang's shared ThreadSanitizer runtime crashes at start-up; the static one lives in the
+    # executables only, so the shared library leaves the sanitizer's symbols to them.
+    set(TVPOLICY_NO_UNDEFINED "")
+  elseif(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     # Clang links its sanitizer runtime statically into executables only, which leaves a shared
     # library linked with --no-undefined unresolved. The shared runtime serves both; programs
     # find it through their run path.
