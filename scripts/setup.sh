@@ -9,7 +9,7 @@ packages=(
   libxerces-c-dev libcurl4-gnutls-dev libboost-dev libsystemd-dev
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
-  clang libc++-dev libc++abi-dev
+  clang libc++-dev libc++abi-dev libclang-rt-dev llvm
   dnsmasq-base bind9-dnsutils curl iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo
   systemd  # busctl, which the D-Bus peer tests drive their mocks with
 )

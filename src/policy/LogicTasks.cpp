@@ -16,6 +16,8 @@
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
+#include "policy/LogicEvaluation.h"
+
 bool andTask::dummy = TaskFactory::addTask("andTask", &andTask::create);
 bool falseTask::dummy = TaskFactory::addTask("falseTask", &falseTask::create);
 bool notTask::dummy = TaskFactory::addTask("notTask", &notTask::create);
@@ -31,12 +33,6 @@ const bool described = tvpolicy::TaskCatalog::describe("andTask", {"skip", "skip
                        tvpolicy::TaskCatalog::describe("orTask", {}) &&
                        tvpolicy::TaskCatalog::describe("trueTask", {}) &&
                        tvpolicy::TaskCatalog::describe("ValidateTask", {"status"});
-}  // namespace
-
-namespace {
-
-void traceTerm(Task& term, bool passed) { debug(term.getType() + (passed ? " Passed" : " Failed"), ""); }
-
 }  // namespace
 
 // Deletes composite trees without recursion: a tree nested as deep as a document allows must
@@ -91,37 +87,7 @@ void andTask::setAttribute(Attribute* attribute)
     }
 }
 
-TaskResponse* andTask::perform()
-{
-    auto* result = new TaskResponse(0);
-    bool allPassed = true;
-    for (Task* term : terms) {
-        std::string key = term->hashCode();
-        TaskResponse* response = TaskFactory::getCachedResult(key);
-        if (response == nullptr) {
-            response = term->perform();
-            TaskFactory::addCachedResult(key, response);
-        }
-        bool termPassed = response != nullptr && response->passed;
-        traceTerm(*term, termPassed);
-        if (!termPassed) {
-            result->failedResponse = response;
-            result->message = getType() + "/" + (response != nullptr ? response->message : std::string());
-            allPassed = false;
-        }
-        if (key.empty()) {
-            delete response;
-        }
-        if (!allPassed) {
-            break;
-        }
-    }
-    if (allPassed && skip) {
-        result->skip = true;
-    }
-    result->passed = passed_ = allPassed;
-    return result;
-}
+TaskResponse* andTask::perform() { return LogicEvaluation::perform(*this); }
 
 std::string andTask::getType() { return "andTask"; }
 
@@ -137,33 +103,7 @@ Task* orTask::create() { return new orTask; }
 
 void orTask::setAttribute(Attribute*) {}
 
-TaskResponse* orTask::perform()
-{
-    auto* result = new TaskResponse(0);
-    passed_ = false;
-    std::string failures;
-    for (Task* term : terms) {
-        TaskResponse* response = term->perform();
-        if (response == nullptr) {
-            continue;
-        }
-        if (response->skip) {
-            result->skip = true;
-        }
-        traceTerm(*term, response->passed);
-        if (response->passed) {
-            passed_ = true;
-            delete response;
-            break;
-        }
-        failures += (failures.empty() ? "" : ",") + getType() + "/" + response->message;
-        delete response;
-    }
-    result->passed = !terms.empty() && passed_;
-    result->message = failures;
-    passed_ = result->passed;
-    return result;
-}
+TaskResponse* orTask::perform() { return LogicEvaluation::perform(*this); }
 
 std::string orTask::getType() { return "orTask"; }
 
@@ -188,20 +128,7 @@ TaskResponse* notTask::perform()
         passed_ = false;
         return response;
     }
-    std::string key = term->hashCode();
-    TaskResponse* response = TaskFactory::getCachedResult(key);
-    if (response == nullptr) {
-        response = term->perform();
-        if (response == nullptr) {
-            response = new TaskResponse;
-        }
-        response->passed = !response->passed;
-        response->message = getType() + "/" + response->message;
-        TaskFactory::addCachedResult(key, response);
-    }
-    traceTerm(*term, response->passed);
-    passed_ = response->passed;
-    return response;
+    return LogicEvaluation::perform(*this);
 }
 
 std::string notTask::getType() { return "notTask"; }

@@ -14,9 +14,11 @@
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Section.h>
 
+#include "policy/MarkupTrim.h"
 #include "policy/ParseGuard.h"
 #include "policy/ParseMessages.h"
 #include "policy/ProgressiveParse.h"
+#include "xml/DocumentLimits.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
 
@@ -28,19 +30,6 @@ namespace {
 bool allWhiteSpace(const std::string& text)
 {
     return text.find_first_not_of(" \t\r\n") == std::string::npos;
-}
-
-// Drops what follows the last ">" and what precedes the first "<".
-void trimToMarkup(std::string& xml)
-{
-    std::string::size_type last = xml.rfind('>');
-    if (last != std::string::npos) {
-        xml.erase(last + 1);
-    }
-    std::string::size_type first = xml.find('<');
-    if (first != std::string::npos) {
-        xml.erase(0, first);
-    }
 }
 
 std::string sectionKey(std::uint32_t count, const std::string& name)
@@ -63,8 +52,11 @@ Policy::~Policy()
 
 Policy* Policy::parseFromString(std::string xml, bool showErrors)
 {
-    tvi::tslog(std::clog) << xml << std::endl;
     tvpolicy::xml::ensurePlatform();
+    if (xml.size() > tvpolicy::xml::maxDocumentBytes) {
+        return refuseOversized(xml.size(), showErrors);
+    }
+    tvi::tslog(std::clog) << xml << std::endl;
     std::unique_ptr<SAX2XMLReader> reader(XMLReaderFactory::createXMLReader());
     reader->setFeature(XMLUni::fgSAX2CoreNameSpaces, false);
     reader->setFeature(XMLUni::fgXercesSchema, false);
@@ -77,8 +69,11 @@ Policy* Policy::parseFromString(std::string xml, bool showErrors)
     reader->setContentHandler(policy);
     reader->setErrorHandler(policy);
 
-    trimToMarkup(xml);
+    const XMLCh* encoding = tvpolicy::policy::trimToMarkup(xml);
     MemBufInputSource source(reinterpret_cast<const XMLByte*>(xml.data()), xml.size(), "policy", false);
+    if (encoding != nullptr) {
+        source.setEncoding(encoding);
+    }
     tvpolicy::policy::ParseGuard guard;
     policy->guard = &guard;
     try {
@@ -88,6 +83,18 @@ Policy* Policy::parseFromString(std::string xml, bool showErrors)
     }
     policy->guard = nullptr;
     policy->reader = nullptr;
+    return policy;
+}
+
+Policy* Policy::refuseOversized(std::size_t size, bool showErrors)
+{
+    std::string why = "the policy is " + std::to_string(size) + " bytes long, more than the " +
+                      std::to_string(tvpolicy::xml::maxDocumentBytes) + " bytes a policy may have";
+    tvi::tslog(std::clog) << "Policy refused unread: " << why << std::endl;
+    auto* policy = new Policy("", nullptr);
+    policy->showErrors = showErrors;
+    // As a document that could not be read at all: a fatal error at its first line.
+    policy->fatalError(SAXParseException(tvpolicy::xml::Utf16(why).get(), nullptr, nullptr, 1, 0));
     return policy;
 }
 

@@ -1,5 +1,6 @@
 #include <tvpolicy/policy/TaskFactory.h>
 
+#include <atomic>
 #include <cstdio>
 #include <utility>
 
@@ -20,8 +21,9 @@ bool TaskFactory::addTask(std::string name, TaskMap::CreateFunction create)
 
 Task* TaskFactory::createTask(std::string name)
 {
-    static unsigned long count = 0;
-    ++count;
+    // Policies and monitors may be parsed on several threads at once.
+    static std::atomic<unsigned long> count{0};
+    count.fetch_add(1, std::memory_order_relaxed);
     TaskMap::CreateFunction create = getMap().get(std::move(name));
     return create != nullptr ? create() : nullptr;
 }

@@ -79,6 +79,11 @@ void report(ErrorHandler& errors, const char* message, const char* systemId, XML
 DocumentPtr parseDocument(const std::string& text, const DomSettings& settings, ErrorHandler& errors)
 {
     ensurePlatform();
+    if (text.size() > maxDocumentBytes) {
+        std::string why = "Document is larger than " + std::to_string(maxDocumentBytes) + " bytes";
+        report(errors, why.c_str(), settings.systemId, 0, 0);
+        return nullptr;
+    }
     BoundedDomParser parser;
     parser.setValidationScheme(XercesDOMParser::Val_Auto);
     parser.setDoNamespaces(settings.namespaces);

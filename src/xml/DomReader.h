@@ -4,6 +4,7 @@
 
 #include <xercesc/sax/ErrorHandler.hpp>
 
+#include "xml/DocumentLimits.h"
 #include "xml/XmlPlatform.h"
 
 // The one way the library builds a DOM tree from a document's text.
@@ -22,7 +23,8 @@ struct DomSettings {
 };
 
 /// Parses `text` with validation scheme "auto", schema processing off, the hardening of
-/// XmlPlatform.h and the limits above. Problems go to `errors` (warnings, errors and fatal
+/// XmlPlatform.h and the limits above. A text longer than maxDocumentBytes is not parsed.
+/// Problems go to `errors` (warnings, errors and fatal
 /// errors alike); the parser stops at the first fatal error and the document holds what was read
 /// until then. A document over the limits is reported to `errors` as a fatal error and gives
 /// null, as does a parse that fails outright. Initialises the XML platform when needed.

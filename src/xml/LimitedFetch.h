@@ -3,13 +3,15 @@
 #include <cstddef>
 #include <string>
 
+#include "xml/DocumentLimits.h"
+
 namespace tvpolicy::xml {
 
 /// Bounds of one fetch of a document from the network.
 struct FetchLimits {
     long connectTimeoutMs = 10000;
     long totalTimeoutMs = 30000;
-    std::size_t maxBytes = 16u << 20;
+    std::size_t maxBytes = maxDocumentBytes;
 };
 
 /// The limits every document fetched for the XML reader gets (policy includes). Set them

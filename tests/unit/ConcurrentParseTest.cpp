@@ -1,15 +1,21 @@
-// Several threads reading agent documents at once, the first of them initialising the XML
-// platform: every thread must get exactly what a lone reader gets.
+// Several threads reading documents at once (agent documents, policies, monitors), the first of
+// them initialising the XML platform: every thread must get exactly what a lone reader gets.
 #include <tvpolicy/agent/AgentConfigXML.h>
 #include <tvpolicy/agent/AgentSchema.h>
 #include <tvpolicy/agent/AgentStatusXML.h>
 #include <tvpolicy/agent/LoginField.h>
 #include <tvpolicy/agent/WifiConfigurationProfile.h>
+#include <tvpolicy/checks/Monitor.h>
+#include <tvpolicy/policy/Policy.h>
+#include <tvpolicy/policy/Section.h>
+#include <tvpolicy/policy/Task.h>
 
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <functional>
 #include <iostream>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -40,6 +46,37 @@ bool readsOneOfEach(int round)
            broken->sjLoginTitle == "Network Credentials - Dissolvable Agent";
 }
 
+// A policy of one section holding a nested tree and a check: both kinds come from the factory.
+bool readsPolicy(int round)
+{
+    std::string n = std::to_string(round);
+    std::unique_ptr<Policy> policy(Policy::parseFromString(
+        "<policy name='p" + n + "'><section name='s" + n +
+            "'><and><or><true/><ProcessExists procName='x'/></or><not><false/></not></and></section></policy>",
+        false));
+    if (policy->getFatalParseError() || policy->getName() != "p" + n || policy->getSections().size() != 1) {
+        return false;
+    }
+    Section* section = policy->getSections().begin()->second;
+    return section->getName() == "s" + n && section->getTasks().size() == 1 &&
+           section->getTasks().front()->getType() == "andTask" && section->getTasks().front()->getTerms()->size() == 2;
+}
+
+bool readsMonitors(int round)
+{
+    std::string n = std::to_string(round);
+    std::unique_ptr<std::list<com::torvane::policy::Monitor*>> monitors(com::torvane::policy::Monitor::parseMonitors(
+        "<monitors><Monitor id='m" + n + "' period='" + n +
+        "'><ProcessExists procName='x'/><or><true/><false/></or></Monitor><Monitor id='e'/></monitors>"));
+    bool right = monitors->size() == 2 && monitors->front()->getID() == "m" + n &&
+                 monitors->front()->getPeriod() == round && monitors->front()->getTasks().size() == 2 &&
+                 monitors->front()->getTasks().back()->getTerms()->size() == 2 && monitors->back()->getTasks().empty();
+    for (auto* monitor : *monitors) {
+        delete monitor;
+    }
+    return right;
+}
+
 // Sends descriptor 2 to /dev/null while alive. The standard streams stay synchronised with
 // stdio, so threads may log at once; a captured stream buffer would not be safe.
 class QuietStderr {
@@ -63,9 +100,9 @@ private:
     int saved_;
 };
 
-TEST(ConcurrentParse, ThreadsReadDocumentsAtOnce)
+// The count of readings that `read` got wrong, with 8 threads making 50 readings each at once.
+int wrongReadings(const std::function<bool(int)>& read)
 {
-    QuietStderr quiet;  // the broken documents' error lines
     std::atomic<int> wrong{0};
     std::atomic<bool> go{false};
     std::vector<std::thread> threads;
@@ -75,7 +112,7 @@ TEST(ConcurrentParse, ThreadsReadDocumentsAtOnce)
                 std::this_thread::yield();
             }
             for (int round = 0; round < 50; ++round) {
-                if (!readsOneOfEach(t * 1000 + round)) {
+                if (!read(t * 1000 + round)) {
                     ++wrong;
                 }
             }
@@ -85,7 +122,20 @@ TEST(ConcurrentParse, ThreadsReadDocumentsAtOnce)
     for (std::thread& thread : threads) {
         thread.join();
     }
-    EXPECT_EQ(wrong, 0);
+    return wrong;
+}
+
+TEST(ConcurrentParse, ThreadsReadDocumentsAtOnce)
+{
+    QuietStderr quiet;  // the broken documents' error lines
+    EXPECT_EQ(wrongReadings(readsOneOfEach), 0);
+}
+
+// Tasks are created through the one factory from every parsing thread.
+TEST(ConcurrentParse, ThreadsReadPoliciesAndMonitorsAtOnce)
+{
+    QuietStderr quiet;  // every element read is logged
+    EXPECT_EQ(wrongReadings([](int round) { return round % 2 == 0 ? readsPolicy(round) : readsMonitors(round); }), 0);
 }
 
 }  // namespace

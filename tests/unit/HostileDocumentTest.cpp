@@ -3,13 +3,19 @@
 #include <tvpolicy/agent/AgentConfigXML.h>
 #include <tvpolicy/agent/AgentSchema.h>
 #include <tvpolicy/agent/AgentStatusXML.h>
+#include <tvpolicy/agent/LoginField.h>
 #include <tvpolicy/agent/ParseErrorHandler.h>
+#include <tvpolicy/agent/WifiConfigurationProfile.h>
 #include <tvpolicy/checks/Monitor.h>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <iostream>
+#include <list>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "support/CaptureStream.h"
 #include "support/TempDir.h"
@@ -81,6 +87,52 @@ TEST(HostileDocument, ReadersFallBackToTheirDefaults)
         std::unique_ptr<std::list<com::torvane::policy::Monitor*>> monitors(
             com::torvane::policy::Monitor::parseMonitors(text));
         EXPECT_TRUE(monitors->empty());
+    }
+}
+
+struct Reader {
+    std::string name;
+    std::string document;
+    std::function<bool(const std::string&)> reads;  // whether the text's content came through
+};
+
+// Each reader takes a document padded to the size cap (blanks after the root element) and
+// refuses it one byte longer, as it refuses a broken document: with an error line and its
+// defaults.
+TEST(HostileDocument, EveryReaderRefusesATextOverTheSizeCap)
+{
+    using namespace com::torvane;
+    const std::vector<Reader> readers = {
+        {"configuration", "<c xmlns='" + ns + "'><loginUrl>u</loginUrl></c>",
+         [](const std::string& text) { return AgentConfigXML::parse(text)->loginUrl == "u"; }},
+        {"status", "<r xmlns='" + ns + "'><status>NEEDS_SCAN</status></r>",
+         [](const std::string& text) { return AgentStatusXML::parse(text)->getStatus() == AgentStatusXML::NEEDS_SCAN; }},
+        {"login field", "<field xmlns='" + ns + "' name='f'/>",
+         [](const std::string& text) { auto field = LoginField::parse(text); return field && field->getName() == "f"; }},
+        {"profile", "<profile xmlns='" + ns + "'><SSID>s</SSID></profile>",
+         [](const std::string& text) { auto profile = WifiConfigurationProfile::parse(text); return profile && profile->getSSID() == "s"; }},
+        {"monitor document", "<m><Monitor id='m'/></m>",
+         [](const std::string& text) {
+             std::unique_ptr<std::list<policy::Monitor*>> monitors(policy::Monitor::parseMonitors(text));
+             bool one = monitors->size() == 1;
+             for (auto* monitor : *monitors) {
+                 delete monitor;
+             }
+             return one;
+         }},
+        {"monitor", "<Monitor id='m'/>", [](const std::string& text) { return policy::Monitor(text).getID() == "m"; }},
+    };
+    for (const Reader& reader : readers) {
+        std::string text = reader.document;
+        text.resize(tvpolicy::xml::maxDocumentBytes, ' ');
+        CaptureStream log(std::clog);
+        CaptureStream errors(std::cerr);
+        EXPECT_TRUE(reader.reads(text)) << reader.name;
+        EXPECT_EQ(log.text() + errors.text(), "") << reader.name;
+        text += ' ';
+        EXPECT_FALSE(reader.reads(text)) << reader.name;
+        EXPECT_NE((log.text() + errors.text()).find("Document is larger than 16777216 bytes"), std::string::npos)
+            << reader.name;
     }
 }
 

@@ -13,6 +13,7 @@
 #include "support/PolicyText.h"
 #include "support/TempDir.h"
 #include "support/XmlText.h"
+#include "xml/DocumentLimits.h"
 
 namespace {
 
@@ -52,6 +53,31 @@ TEST(HostilePolicy, ExternalEntitiesAndDtdsAreNeverRead)
     EXPECT_EQ(parsed.policy->getName(), "");  // the external DTD's default was not applied
     EXPECT_EQ(parsed.policy->getExtraInformation(), "c=x");
     EXPECT_EQ(parsed.log.find("LEAKED"), std::string::npos);
+}
+
+// The cap counts the text as given, junk around the markup included; over it nothing is read
+// (nor logged), and the policy reports the document as unreadable.
+TEST(HostilePolicy, ATextOverTheSizeCapIsRefusedUnread)
+{
+    std::string xml = "<policy name=\"p\"><section name=\"s\"><true/></section></policy>";
+    xml.resize(tvpolicy::xml::maxDocumentBytes, '\n');
+    auto atCap = parsePolicy(xml);
+    ASSERT_FALSE(atCap.policy->getFatalParseError()) << atCap.out;
+    EXPECT_EQ(atCap.policy->getName(), "p");
+
+    xml += '\n';
+    long before = peakKilobytes();
+    auto over = parsePolicy(xml);
+    EXPECT_TRUE(over.policy->getFatalParseError());
+    EXPECT_EQ(over.policy->getFatalErrorMsg(),
+              "Unable to read policy.\r\n\r\nPlease check your personal firewall settings and try again.");
+    EXPECT_EQ(over.out, "Unable to read policy");
+    EXPECT_NE(over.policy->getFatalErrorReason().find(std::to_string(xml.size()) + " bytes"), std::string::npos)
+        << over.policy->getFatalErrorReason();
+    EXPECT_EQ(over.policy->getName(), "");
+    EXPECT_TRUE(over.policy->getSections().empty());
+    EXPECT_LT(over.log.size(), 1024u);
+    EXPECT_LT(peakKilobytes() - before, 4 * 1024);
 }
 
 struct DeepCase {

@@ -241,6 +241,83 @@ TEST(LogicTasks, TrueIgnoresItsAttributeListEntirely)
     EXPECT_TRUE(std::unique_ptr<TaskResponse>(always->perform())->passed);
 }
 
+struct DeepChainCase {
+    std::string kind;    // the composite repeated down the chain
+    std::string leaf;    // the check at its bottom
+    bool passed;
+    std::string prefix;  // the message is this prefix once per level
+};
+
+class DeepChainTest : public testing::TestWithParam<DeepChainCase> {};
+
+// Built in code, so no parse bound applies: every level is one composite over the next.
+TEST_P(DeepChainTest, PerformsFarDeeperThanTheStackAllows)
+{
+    const DeepChainCase& c = GetParam();
+    const int depth = 200000;
+    std::unique_ptr<Task> root(TaskFactory::createTask(c.kind));
+    Task* inner = root.get();
+    for (int level = 1; level < depth; ++level) {
+        Task* next = TaskFactory::createTask(c.kind);
+        inner->addTerm(next);
+        inner = next;
+    }
+    inner->addTerm(TaskFactory::createTask(c.leaf));
+    std::unique_ptr<TaskResponse> response;
+    {
+        CaptureStream log(std::clog);  // one trace line per level
+        response.reset(root->perform());
+    }
+    EXPECT_EQ(response->passed, c.passed);
+    EXPECT_EQ(root->passed(), c.passed);
+    std::string message;
+    for (int level = 0; level < depth && !c.prefix.empty(); ++level) {
+        message += c.prefix;
+    }
+    EXPECT_EQ(response->message, message);
+}
+
+INSTANTIATE_TEST_SUITE_P(Chains, DeepChainTest, testing::Values(
+    DeepChainCase{"andTask", "trueTask", true, ""},
+    DeepChainCase{"andTask", "falseTask", false, "andTask/"},
+    DeepChainCase{"orTask", "falseTask", false, "orTask/"},
+    DeepChainCase{"orTask", "trueTask", true, ""},
+    // An even number of inversions.
+    DeepChainCase{"notTask", "falseTask", false, "notTask/"}),
+    [](const testing::TestParamInfo<DeepChainCase>& info) { return info.param.kind + "Over" + info.param.leaf; });
+
+// Levels of every kind, each and/or with a sibling before the deeper level that leaves the
+// outcome to it (true in an and, false in an or): only the inversions count.
+TEST(LogicTasks, PerformsAMixedTreeFarDeeperThanTheStackAllows)
+{
+    const char* kinds[] = {"andTask", "orTask", "notTask"};
+    const int depth = 200000;
+    std::vector<Task*> levels;
+    std::unique_ptr<Task> root(TaskFactory::createTask(kinds[0]));
+    levels.push_back(root.get());
+    for (int level = 1; level < depth; ++level) {
+        Task* next = TaskFactory::createTask(kinds[level % 3]);
+        std::string kind = levels.back()->getType();
+        if (kind != "notTask") {
+            levels.back()->addTerm(TaskFactory::createTask(kind == "andTask" ? "trueTask" : "falseTask"));
+        }
+        levels.back()->addTerm(next);
+        levels.push_back(next);
+    }
+    levels.back()->addTerm(TaskFactory::createTask("falseTask"));
+    bool expected = false;
+    for (int level = depth - 1; level >= 0; --level) {
+        const std::string kind = kinds[level % 3];
+        expected = kind == "notTask" ? !expected : expected;
+    }
+    std::unique_ptr<TaskResponse> response;
+    {
+        CaptureStream log(std::clog);
+        response.reset(root->perform());
+    }
+    EXPECT_EQ(response->passed, expected);
+}
+
 TEST(LogicTasks, DestroysTreesFarDeeperThanTheStackAllows)
 {
     const char* kinds[] = {"andTask", "orTask", "notTask"};

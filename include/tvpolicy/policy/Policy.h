@@ -41,7 +41,9 @@ public:
     static int getVersion() { return 2; }
 
     /// Parses `xml` into a new policy, owned by the caller also when the parse failed
-    /// (getFatalParseError() then tells; with `showErrors` getFatalErrorMsg() says why).
+    /// (getFatalParseError() then tells; with `showErrors` getFatalErrorMsg() says why). A text
+    /// over 16 MB is refused unread, as a fatal error at line 1. UTF-16 and UTF-32 texts, with or
+    /// without a byte-order mark, read as their UTF-8 twins do.
     static Policy* parseFromString(std::string xml, bool showErrors);
     /// Reading a policy from its own URL is not supported: splits the URL, reports the failure
     /// as a fatal parse error and returns false.
@@ -118,6 +120,7 @@ private:
     friend class Section;
     friend class Option;
 
+    static Policy* refuseOversized(std::size_t size, bool showErrors);
     void announce(std::string sectionName, const Section* section = nullptr);
     void store(std::map<std::string, Section*>& into, const std::string& key, Section* item);
     std::string absolute(const std::string& url) const;

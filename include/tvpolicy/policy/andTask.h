@@ -26,6 +26,8 @@ public:
 
 private:
     friend class LogicTermRelease;
+    friend class LogicEvaluation;
+    friend class LogicFrame;
     std::list<Task*> terms;
     bool skip = false;
     bool skipEmpty = false;  // accepted and stored only

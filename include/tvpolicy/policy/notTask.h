@@ -25,5 +25,7 @@ public:
 
 private:
     friend class LogicTermRelease;
+    friend class LogicEvaluation;
+    friend class LogicFrame;
     Task* term = nullptr;
 };

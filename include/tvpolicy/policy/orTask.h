@@ -23,5 +23,7 @@ public:
 
 private:
     friend class LogicTermRelease;
+    friend class LogicEvaluation;
+    friend class LogicFrame;
     std::list<Task*> terms;
 };
