@@ -19,6 +19,7 @@
 #include <SystemConfiguration/SCSchemaDefinitions.h>
 
 #include "host/parse/DnsMessage.h"
+#include "host/probe/OwnedFd.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {
@@ -46,22 +47,7 @@ private:
     DNSServiceRef ref_ = nullptr;
 };
 
-class Socket {
-public:
-    explicit Socket(int fd) : fd_(fd) {}
-    ~Socket()
-    {
-        if (fd_ >= 0) {
-            ::close(fd_);
-        }
-    }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
-    int get() const { return fd_; }
-
-private:
-    int fd_;
-};
+using Socket = tvpolicy::probe::OwnedFd;
 
 void DNSSD_API gather(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType error, const char*,
                       uint16_t type, uint16_t recordClass, uint16_t length, const void* data, uint32_t ttl,

@@ -31,6 +31,7 @@
 #include <tvpolicy/host/Utilities.h>
 
 #include "host/parse/MacHardware.h"
+#include "host/probe/OwnedFd.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {
@@ -47,22 +48,7 @@ struct IfaddrsFree {
     void operator()(ifaddrs* list) const { ::freeifaddrs(list); }
 };
 
-class Socket {
-public:
-    explicit Socket(int fd) : fd_(fd) {}
-    ~Socket()
-    {
-        if (fd_ >= 0) {
-            ::close(fd_);
-        }
-    }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
-    int get() const { return fd_; }
-
-private:
-    int fd_;
-};
+using Socket = tvpolicy::probe::OwnedFd;
 
 CFHolder<SCDynamicStoreRef> dynamicStore()
 {

@@ -17,6 +17,7 @@
 
 #include "host/parse/NetText.h"
 #include "host/parse/ProcText.h"
+#include "host/probe/OwnedFd.h"
 #include "host/probe/linux/NetworkManager.h"
 
 namespace tvpolicy {
@@ -27,22 +28,7 @@ struct IfaddrsFree {
     void operator()(ifaddrs* list) const { ::freeifaddrs(list); }
 };
 
-class Fd {
-public:
-    explicit Fd(int fd) : fd_(fd) {}
-    ~Fd()
-    {
-        if (fd_ >= 0) {
-            ::close(fd_);
-        }
-    }
-    Fd(const Fd&) = delete;
-    Fd& operator=(const Fd&) = delete;
-    int get() const { return fd_; }
-
-private:
-    int fd_;
-};
+using Fd = tvpolicy::probe::OwnedFd;
 
 // Reads a small sysfs attribute below `dir`; false (with errno) when it cannot be read.
 bool readAttribute(int dir, const char* name, std::string& text)

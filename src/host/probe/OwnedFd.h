@@ -2,9 +2,9 @@
 
 #include <unistd.h>
 
-namespace tvpolicy::linux_fd {
+namespace tvpolicy::probe {
 
-/// One file descriptor, closed when the object ends or is reset.
+/// One file descriptor (POSIX, so every backend's), closed when the object ends or is reset.
 class OwnedFd {
 public:
     OwnedFd() = default;
@@ -27,4 +27,4 @@ private:
     int fd_ = -1;
 };
 
-}  // namespace tvpolicy::linux_fd
+}  // namespace tvpolicy::probe
