@@ -77,7 +77,9 @@ TEST(HostilePolicy, ATextOverTheSizeCapIsRefusedUnread)
     EXPECT_EQ(over.policy->getName(), "");
     EXPECT_TRUE(over.policy->getSections().empty());
     EXPECT_LT(over.log.size(), 1024u);
-    EXPECT_LT(peakKilobytes() - before, 4 * 1024);
+    // At most the one copy of the text that the by-value parameter makes (an instrumented
+    // build keeps freed memory aside, so the copy shows there), never a parse of it.
+    EXPECT_LT(peakKilobytes() - before, 24 * 1024);
 }
 
 struct DeepCase {
