@@ -3,6 +3,20 @@ find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
 find_package(XercesC 3.2 REQUIRED)
 find_package(CURL REQUIRED)
+
+# The standalone tvpolicy program (tools/tvpolicy) links Xerces-C statically and loads libcurl
+# when its first transfer needs it, under the name the dynamic loader knows it by: the file that
+# the development link points at, with its minor version numbers cut (libcurl-gnutls.so.4.8.0 ->
+# libcurl-gnutls.so.4; libcurl.4.dylib stays as it is).
+find_library(TVPOLICY_XERCES_STATIC NAMES libxerces-c.a)
+pkg_check_modules(ICU_UC IMPORTED_TARGET icu-uc)
+if(NOT TVPOLICY_CURL_LIBRARY)
+  list(GET CURL_LIBRARIES 0 _curl_library)
+  get_filename_component(_curl_library "${_curl_library}" REALPATH)
+  get_filename_component(_curl_library "${_curl_library}" NAME)
+  string(REGEX REPLACE "(\\.so\\.[0-9]+)\\..*$" "\\1" _curl_library "${_curl_library}")
+  set(TVPOLICY_CURL_LIBRARY "${_curl_library}" CACHE STRING "The name libcurl is loaded under")
+endif()
 find_package(Boost 1.74 REQUIRED)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json 3 CONFIG REQUIRED)

@@ -7,4 +7,4 @@ cd "$(dirname "$0")/.."
 bash scripts/setup.sh
 build_dir=${BUILD_DIR:-build}
 cmake -S . -B "$build_dir" -G Ninja "$@" >/dev/null
-cmake --build "$build_dir" --target ${BUILD_TARGETS:-tvpolicy_cli}
+cmake --build "$build_dir" --target ${BUILD_TARGETS:-tvpolicy tvpolicy_cli}

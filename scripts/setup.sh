@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages=(
   build-essential cmake ninja-build pkg-config git
-  libxerces-c-dev libcurl4-gnutls-dev libboost-dev libsystemd-dev
+  libxerces-c-dev libicu-dev libcurl4-gnutls-dev libboost-dev libsystemd-dev
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
   clang libc++-dev libc++abi-dev libclang-rt-dev llvm

@@ -108,7 +108,7 @@ HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::stri
     }
     CurlHandle curl = tvpolicy::net::makeCurlHandle();
     if (!curl) {
-        result.error = "cannot start a transfer";
+        result.error = tvpolicy::net::whyNoCurlHandle();
         return result;
     }
 

@@ -11,6 +11,11 @@ CurlHandle makeCurlHandle()
     return CurlHandle(curl_easy_init());
 }
 
+std::string whyNoCurlHandle()
+{
+    return std::string("cannot start a transfer: ") + curl_easy_strerror(CURLE_FAILED_INIT);
+}
+
 extern "C" std::size_t appendBounded(char* data, std::size_t size, std::size_t count, void* target)
 {
     auto* sink = static_cast<BoundedText*>(target);

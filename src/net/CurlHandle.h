@@ -22,6 +22,9 @@ using CurlList = std::unique_ptr<curl_slist, CurlListFree>;
 /// once for the whole process, on whichever thread comes first.
 CurlHandle makeCurlHandle();
 
+/// Why makeCurlHandle gave no handle, in libcurl's words.
+std::string whyNoCurlHandle();
+
 /// Where a write or header callback appends: the text, and how large it may grow.
 struct BoundedText {
     std::string* text = nullptr;

@@ -17,7 +17,7 @@ FetchResult fetchDocument(const std::string& url, const FetchLimits& limits)
     FetchResult result;
     net::CurlHandle curl = net::makeCurlHandle();
     if (!curl) {
-        result.error = "cannot start a transfer";
+        result.error = tvpolicy::net::whyNoCurlHandle();
         return result;
     }
     std::string body;

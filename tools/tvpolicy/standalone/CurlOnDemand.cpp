@@ -1,0 +1,251 @@
+// libcurl on demand for the standalone tvpolicy program.
+//
+// The program links the library's objects and Xerces-C statically and leaves libcurl out of its
+// start-up: libcurl brings its TLS, Kerberos, LDAP and SSH libraries, whose loading costs several
+// times what everything else does, and most commands never make a transfer. Every libcurl
+// function that the library or Xerces-C calls is defined here; the first call loads libcurl
+// (dlopen, under the name the build found it by) and each call is passed on. When libcurl
+// cannot be loaded every call fails the way libcurl reports failure (no handle, an error code),
+// and curl_easy_strerror gives the reason for any code.
+//
+// curl_global_init and curl_global_cleanup change nothing that can be seen until a transfer
+// exists, so they are counted while libcurl is not loaded and replayed when it is: Xerces-C's
+// start-up calls curl_global_init, and a policy that is only read must not load libcurl.
+//
+// This file is compiled with hidden visibility: nothing here is exported, so libcurl's own calls
+// never land in these definitions.
+
+#define CURL_DISABLE_TYPECHECK 1
+#include <curl/curl.h>
+
+#include <dlfcn.h>
+
+#include <cstdarg>
+#include <mutex>
+#include <string>
+
+namespace {
+
+struct OnDemand {
+    std::mutex mutex;
+    bool tried = false;
+    void* library = nullptr;
+    std::string failure;  // why libcurl could not be loaded
+    long pendingInitFlags = CURL_GLOBAL_DEFAULT;
+    int pendingInits = 0;
+};
+
+OnDemand& state()
+{
+    static OnDemand shared;
+    return shared;
+}
+
+using GlobalInit = decltype(&curl_global_init);
+
+// The loaded library, or null when it cannot be loaded. Held for the life of the process:
+// libcurl keeps global state (its TLS back end) that outlives every handle.
+void* loadedCurl()
+{
+    OnDemand& curl = state();
+    std::lock_guard<std::mutex> lock(curl.mutex);
+    if (!curl.tried) {
+        curl.tried = true;
+        curl.library = dlopen(TVPOLICY_CURL_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+        if (curl.library == nullptr) {
+            const char* reason = dlerror();
+            curl.failure = std::string("cannot load libcurl (" TVPOLICY_CURL_LIBRARY "): ") +
+                           (reason != nullptr ? reason : "unknown error");
+        } else if (auto init = reinterpret_cast<GlobalInit>(dlsym(curl.library, "curl_global_init"))) {
+            for (; curl.pendingInits > 0; --curl.pendingInits) {
+                init(curl.pendingInitFlags);
+            }
+        }
+    }
+    return curl.library;
+}
+
+template <typename Function>
+Function entry(const char* name)
+{
+    void* library = loadedCurl();
+    return library != nullptr ? reinterpret_cast<Function>(dlsym(library, name)) : nullptr;
+}
+
+}  // namespace
+
+// The real function, looked up once per function on its first call.
+#define TVPOLICY_REAL(name) static const auto real = entry<decltype(&name)>(#name)
+
+extern "C" {
+
+CURLcode curl_global_init(long flags)
+{
+    OnDemand& curl = state();
+    {
+        std::lock_guard<std::mutex> lock(curl.mutex);
+        if (!curl.tried) {
+            curl.pendingInitFlags |= flags;
+            ++curl.pendingInits;
+            return CURLE_OK;
+        }
+    }
+    TVPOLICY_REAL(curl_global_init);
+    return real != nullptr ? real(flags) : CURLE_FAILED_INIT;
+}
+
+void curl_global_cleanup(void)
+{
+    OnDemand& curl = state();
+    {
+        std::lock_guard<std::mutex> lock(curl.mutex);
+        if (!curl.tried) {
+            curl.pendingInits -= curl.pendingInits > 0 ? 1 : 0;
+            return;
+        }
+    }
+    TVPOLICY_REAL(curl_global_cleanup);
+    if (real != nullptr) {
+        real();
+    }
+}
+
+CURL* curl_easy_init(void)
+{
+    TVPOLICY_REAL(curl_easy_init);
+    return real != nullptr ? real() : nullptr;
+}
+
+void curl_easy_cleanup(CURL* handle)
+{
+    TVPOLICY_REAL(curl_easy_cleanup);
+    if (real != nullptr) {
+        real(handle);
+    }
+}
+
+// The one argument after the option is a long, a pointer (object or function) or a curl_off_t,
+// by the option's number range, as libcurl itself reads it.
+CURLcode curl_easy_setopt(CURL* handle, CURLoption option, ...)
+{
+    TVPOLICY_REAL(curl_easy_setopt);
+    if (real == nullptr) {
+        return CURLE_FAILED_INIT;
+    }
+    std::va_list arguments;
+    va_start(arguments, option);
+    CURLcode code;
+    if (option < CURLOPTTYPE_OBJECTPOINT) {
+        code = real(handle, option, va_arg(arguments, long));
+    } else if (option >= CURLOPTTYPE_OFF_T && option < CURLOPTTYPE_BLOB) {
+        code = real(handle, option, va_arg(arguments, curl_off_t));
+    } else {
+        code = real(handle, option, va_arg(arguments, void*));
+    }
+    va_end(arguments);
+    return code;
+}
+
+// Every piece of information is written through the one pointer that follows.
+CURLcode curl_easy_getinfo(CURL* handle, CURLINFO info, ...)
+{
+    TVPOLICY_REAL(curl_easy_getinfo);
+    if (real == nullptr) {
+        return CURLE_FAILED_INIT;
+    }
+    std::va_list arguments;
+    va_start(arguments, info);
+    CURLcode code = real(handle, info, va_arg(arguments, void*));
+    va_end(arguments);
+    return code;
+}
+
+CURLcode curl_easy_perform(CURL* handle)
+{
+    TVPOLICY_REAL(curl_easy_perform);
+    return real != nullptr ? real(handle) : CURLE_FAILED_INIT;
+}
+
+const char* curl_easy_strerror(CURLcode code)
+{
+    TVPOLICY_REAL(curl_easy_strerror);
+    return real != nullptr ? real(code) : state().failure.c_str();
+}
+
+char* curl_easy_escape(CURL* handle, const char* text, int length)
+{
+    TVPOLICY_REAL(curl_easy_escape);
+    return real != nullptr ? real(handle, text, length) : nullptr;
+}
+
+void curl_free(void* text)
+{
+    TVPOLICY_REAL(curl_free);
+    if (real != nullptr) {
+        real(text);
+    }
+}
+
+curl_slist* curl_slist_append(curl_slist* list, const char* text)
+{
+    TVPOLICY_REAL(curl_slist_append);
+    return real != nullptr ? real(list, text) : nullptr;
+}
+
+void curl_slist_free_all(curl_slist* list)
+{
+    TVPOLICY_REAL(curl_slist_free_all);
+    if (real != nullptr) {
+        real(list);
+    }
+}
+
+CURLM* curl_multi_init(void)
+{
+    TVPOLICY_REAL(curl_multi_init);
+    return real != nullptr ? real() : nullptr;
+}
+
+CURLMcode curl_multi_cleanup(CURLM* multi)
+{
+    TVPOLICY_REAL(curl_multi_cleanup);
+    return real != nullptr ? real(multi) : CURLM_INTERNAL_ERROR;
+}
+
+CURLMcode curl_multi_add_handle(CURLM* multi, CURL* handle)
+{
+    TVPOLICY_REAL(curl_multi_add_handle);
+    return real != nullptr ? real(multi, handle) : CURLM_INTERNAL_ERROR;
+}
+
+CURLMcode curl_multi_remove_handle(CURLM* multi, CURL* handle)
+{
+    TVPOLICY_REAL(curl_multi_remove_handle);
+    return real != nullptr ? real(multi, handle) : CURLM_INTERNAL_ERROR;
+}
+
+CURLMcode curl_multi_perform(CURLM* multi, int* running)
+{
+    TVPOLICY_REAL(curl_multi_perform);
+    return real != nullptr ? real(multi, running) : CURLM_INTERNAL_ERROR;
+}
+
+CURLMcode curl_multi_fdset(CURLM* multi, fd_set* reads, fd_set* writes, fd_set* errors, int* highest)
+{
+    TVPOLICY_REAL(curl_multi_fdset);
+    return real != nullptr ? real(multi, reads, writes, errors, highest) : CURLM_INTERNAL_ERROR;
+}
+
+CURLMcode curl_multi_timeout(CURLM* multi, long* milliseconds)
+{
+    TVPOLICY_REAL(curl_multi_timeout);
+    return real != nullptr ? real(multi, milliseconds) : CURLM_INTERNAL_ERROR;
+}
+
+CURLMsg* curl_multi_info_read(CURLM* multi, int* left)
+{
+    TVPOLICY_REAL(curl_multi_info_read);
+    return real != nullptr ? real(multi, left) : nullptr;
+}
+
+}  // extern "C"
