@@ -9,7 +9,8 @@ find_package(CURL REQUIRED)
 # the development link points at, with its minor version numbers cut (libcurl-gnutls.so.4.8.0 ->
 # libcurl-gnutls.so.4; libcurl.4.dylib stays as it is).
 find_library(TVPOLICY_XERCES_STATIC NAMES libxerces-c.a)
-pkg_check_modules(ICU_UC IMPORTED_TARGET icu-uc)
+find_library(TVPOLICY_ICU_UC_STATIC NAMES libicuuc.a)
+find_library(TVPOLICY_ICU_DATA_STATIC NAMES libicudata.a)
 if(NOT TVPOLICY_CURL_LIBRARY)
   list(GET CURL_LIBRARIES 0 _curl_library)
   get_filename_component(_curl_library "${_curl_library}" REALPATH)
