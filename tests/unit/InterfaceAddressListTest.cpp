@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <deque>
+#include <iterator>
 #include <string>
 #include <vector>
 

@@ -52,6 +52,17 @@ private:
     Ref ref_ = nullptr;
 };
 
+/// A holder of a reference of its own to `ref`, which the caller got from a Get function (or
+/// holds elsewhere); null stays null.
+template <typename Ref>
+CFHolder<Ref> retained(Ref ref)
+{
+    if (ref != nullptr) {
+        CFRetain(ref);
+    }
+    return CFHolder<Ref>(ref);
+}
+
 /// One I/O Kit object (a registry entry, an iterator, a notification), released with
 /// IOObjectRelease.
 class IOHolder {

@@ -128,8 +128,7 @@ CFHolder<CFDictionaryRef> globalDNS(SCDynamicStoreRef store)
     if (!value || CFGetTypeID(value.get()) != CFDictionaryGetTypeID()) {
         return CFHolder<CFDictionaryRef>();
     }
-    CFRetain(value.get());
-    return CFHolder<CFDictionaryRef>(static_cast<CFDictionaryRef>(value.get()));
+    return darwin::retained(static_cast<CFDictionaryRef>(value.get()));
 }
 
 // Forces the configuration refresh of the interface of `interfaces` (an array of

@@ -37,8 +37,7 @@ EventProbe::Wake RunLoopWaiter::wait(CFRunLoopSourceRef source, CFStringRef mode
     RunLoopSourceAttachment stopper(loop, stopSource_.get(), kCFRunLoopDefaultMode);
     {
         std::lock_guard<std::mutex> lock(mutex_);
-        CFRetain(loop);
-        waiting_.reset(loop);
+        waiting_ = retained(loop);
     }
     struct Leave {
         RunLoopWaiter& waiter;
