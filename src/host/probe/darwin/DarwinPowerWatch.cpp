@@ -49,8 +49,15 @@ void DarwinPowerWatch::callback(void* context, io_service_t, natural_t message, 
 {
     // The argument of a power message is its notification identifier, which the answer names.
     auto* self = static_cast<DarwinPowerWatch*>(context);
-    self->pending_.push_back(
-        {static_cast<std::uint32_t>(message), static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(argument))});
+    EventProbe::PowerEvent event{static_cast<std::uint32_t>(message),
+                                 static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(argument))};
+    try {
+        self->pending_.push_back(event);
+    } catch (...) {
+        // Nothing crosses the run loop's C frames; a request that cannot be handed over is
+        // answered here rather than keeping the system awake until it gives up waiting.
+        self->allow(event);
+    }
 }
 
 }  // namespace tvpolicy::darwin
