@@ -183,17 +183,22 @@ void NetworkInterface::getGlobalDNSSuffixes(std::vector<std::string>& suffixes)
     }
 }
 
-void NetworkInterface::renewIPAddress()
+namespace {
+
+void printRenewStatus(bool renewed)
 {
-    bool renewed = tvpolicy::currentNetwork().renewAddress(name_);
     std::printf("Mac-OS-X DHCP Renew Status = %d\n", renewed ? 1 : 0);
     std::fflush(stdout);
 }
 
+}  // namespace
+
+void NetworkInterface::renewIPAddress() { printRenewStatus(tvpolicy::currentNetwork().renewAddress(name_)); }
+
 void NetworkInterface::renewIPAddressAuth(const void* authorization)
 {
     if (authorization != nullptr) {
-        renewIPAddress();
+        printRenewStatus(tvpolicy::currentNetwork().renewAddressAuthorized(name_, authorization));
     }
 }
 

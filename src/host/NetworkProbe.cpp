@@ -16,6 +16,8 @@ std::atomic<NetworkProbe*>& current()
 
 NetworkProbe::~NetworkProbe() = default;
 
+bool NetworkProbe::renewAddressAuthorized(const std::string& name, const void*) { return renewAddress(name); }
+
 NetworkProbe& currentNetwork()
 {
     NetworkProbe* probe = current().load(std::memory_order_acquire);

@@ -84,6 +84,7 @@ TEST(ProfilerApplications, OtherRootsAndBrokenDocumentsGiveNothing)
     for (const Case& c : std::vector<Case>{
              {"root dictionary", plist("<dict><key>_items</key><array/></dict>"), false},
              {"empty plist", plist(""), true},
+             {"no output (the profiler did not start or ran away)", "", true},
              {"not XML", "system_profiler: command not found\n", true},
              {"cut short", profilerOutput.substr(0, profilerOutput.size() / 2), true},
              {"not a plist", "<array><dict/></array>", true},

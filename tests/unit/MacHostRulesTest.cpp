@@ -1,6 +1,6 @@
 // The OS-neutral rules behind the macOS probe: the medium from the controller's media types,
-// the MAC text of the registry's address data, the power messages, and the answer message
-// rebuilt from the DNS service's records (read back by the library's own parser).
+// the MAC text of the registry's address data, and the answer message rebuilt from the DNS
+// service's records (read back by the library's own parser).
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -42,30 +42,6 @@ TEST(MacHardware, MacTextTakesTheFirstSixBytes)
     EXPECT_EQ(macFromBytes({0, 1, 2, 3, 4, 5, 6, 7}), "00:01:02:03:04:05");
     EXPECT_EQ(macFromBytes({1, 2, 3, 4, 5}), "");
     EXPECT_EQ(macFromBytes({}), "");
-}
-
-TEST(MacHardware, PowerMessagesAndTheirAnswers)
-{
-    struct Case {
-        std::uint32_t message;
-        int state;
-        bool acknowledge;
-    } cases[] = {
-        {0xE0000270, 1, true},
-        {0xE0000280, 2, true},
-        {0xE0000320, 3, false},
-        {0xE0000300, 4, false},
-    };
-    for (const Case& c : cases) {
-        auto event = powerEventForMessage(c.message);
-        ASSERT_TRUE(event) << std::hex << c.message;
-        EXPECT_EQ(event->state, c.state);
-        EXPECT_EQ(event->acknowledge, c.acknowledge);
-    }
-    // Unknown messages (here: will-not-sleep and the device power messages) are not answered.
-    for (std::uint32_t message : {0xE0000290u, 0xE0000210u, 0xE0000230u, 0u}) {
-        EXPECT_FALSE(powerEventForMessage(message)) << std::hex << message;
-    }
 }
 
 Bytes srvData(unsigned priority, unsigned weight, unsigned port, const std::string& target)

@@ -209,13 +209,15 @@ TEST(NetworkInventory, RenewalAsksTheSystemAndPrintsItsStatus)
         d.net.renewResult = result;
         NetworkInterface eth0;
         eth0.setName("eth0");
+        const int authorization = 0;
         testing::internal::CaptureStdout();
         eth0.renewIPAddress();
-        eth0.renewIPAddressAuth(nullptr);
+        eth0.renewIPAddressAuth(nullptr);  // no authorization: nothing is asked
+        eth0.renewIPAddressAuth(&authorization);
         eth0.releaseIPAddress();
-        EXPECT_EQ(testing::internal::GetCapturedStdout(),
-                  std::string("Mac-OS-X DHCP Renew Status = ") + (result ? "1" : "0") + "\n");
-        EXPECT_EQ(d.net.renewed, std::vector<std::string>{"eth0"});
+        const std::string status = std::string("Mac-OS-X DHCP Renew Status = ") + (result ? "1" : "0") + "\n";
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), status + status);
+        EXPECT_EQ(d.net.renewed, (std::vector<std::string>{"eth0", "eth0"}));
     }
 }
 

@@ -114,6 +114,10 @@ public:
     virtual std::string bssidCommand() const = 0;
     /// Asks the system to refresh the configuration of `name` (DHCP renew); true when asked.
     virtual bool renewAddress(const std::string& name) = 0;
+    /// The same refresh through the system configuration opened with `authorization`, the
+    /// platform's authorization reference (never null). A backend without such references
+    /// refreshes as renewAddress does, which is what this base class does.
+    virtual bool renewAddressAuthorized(const std::string& name, const void* authorization);
 
     /// The virtual-machine tools of this platform.
     virtual GuestTools guestTools() const = 0;

@@ -28,20 +28,4 @@ std::string macFromBytes(const std::vector<unsigned char>& bytes)
     return text;
 }
 
-std::optional<PowerEvent> powerEventForMessage(std::uint32_t message)
-{
-    switch (message) {
-    case powerMessageCanSystemSleep:
-        return PowerEvent{1, true};
-    case powerMessageSystemWillSleep:
-        return PowerEvent{2, true};
-    case powerMessageSystemWillPowerOn:
-        return PowerEvent{3, false};
-    case powerMessageSystemHasPoweredOn:
-        return PowerEvent{4, false};
-    default:
-        return std::nullopt;
-    }
-}
-
 }  // namespace tvpolicy::parse

@@ -1,13 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
-// The numbers that the macOS I/O registry and power management hand out, turned into the
-// values the library reports. Pure and OS-neutral, so the rules are tested everywhere; the
-// darwin probe checks at compile time that the system's constants are these.
+// The numbers that the macOS I/O registry hands out, turned into the values the library
+// reports. Pure and OS-neutral, so the rules are tested everywhere; the darwin probe checks at
+// compile time that the system's constants are these.
 namespace tvpolicy::parse {
 
 constexpr std::uint32_t mediumTypeIEEE80211 = 0x80;  ///< the 802.11 media-type bit
@@ -21,22 +20,5 @@ std::string mediumFromTypes(const std::vector<std::uint32_t>& types);
 /// The MAC address "00:1B:63:AB:CD:EF" from the first six bytes of the registry's address
 /// data; empty when there are fewer than six.
 std::string macFromBytes(const std::vector<unsigned char>& bytes);
-
-/// The power messages of the system's power notifications (I/O Kit's common messages).
-constexpr std::uint32_t powerMessageCanSystemSleep = 0xE0000270;
-constexpr std::uint32_t powerMessageSystemWillSleep = 0xE0000280;
-constexpr std::uint32_t powerMessageSystemWillPowerOn = 0xE0000320;
-constexpr std::uint32_t powerMessageSystemHasPoweredOn = 0xE0000300;
-
-/// What a power message means to the power notifier.
-struct PowerEvent {
-    /// 1 idle sleep requested, 2 sleep requested, 3 powering on, 4 powered on.
-    int state = 0;
-    /// The system waits for an answer (IOAllowPowerChange): the two sleep requests.
-    bool acknowledge = false;
-};
-
-/// The event of `message`; nothing for a message the notifier ignores (and does not answer).
-std::optional<PowerEvent> powerEventForMessage(std::uint32_t message);
 
 }  // namespace tvpolicy::parse

@@ -5,6 +5,36 @@
 
 namespace tvpolicy::darwin {
 
+bool SystemPowerConnection::open(void* context, IOServiceInterestCallback callback)
+{
+    close();
+    rootPort_ = IORegisterForSystemPower(context, &notifyPort_, callback, &notifier_);
+    if (rootPort_ == IO_OBJECT_NULL) {
+        notifyPort_ = nullptr;
+        notifier_ = IO_OBJECT_NULL;
+        return false;
+    }
+    return true;
+}
+
+void SystemPowerConnection::close()
+{
+    if (rootPort_ == IO_OBJECT_NULL) {
+        return;
+    }
+    IODeregisterForSystemPower(&notifier_);
+    IOServiceClose(rootPort_);
+    IONotificationPortDestroy(notifyPort_);
+    rootPort_ = IO_OBJECT_NULL;
+    notifyPort_ = nullptr;
+    notifier_ = IO_OBJECT_NULL;
+}
+
+CFRunLoopSourceRef SystemPowerConnection::runLoopSource() const
+{
+    return notifyPort_ != nullptr ? IONotificationPortGetRunLoopSource(notifyPort_) : nullptr;
+}
+
 std::string utf8(CFTypeRef value)
 {
     if (value == nullptr || CFGetTypeID(value) != CFStringGetTypeID()) {

@@ -6,6 +6,7 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 #include <IOKit/IOKitLib.h>
+#include <IOKit/pwr_mgt/IOPMLib.h>
 
 #include <string>
 #include <utility>
@@ -51,6 +52,17 @@ private:
     Ref ref_ = nullptr;
 };
 
+/// A holder of a reference of its own to `ref`, which the caller got from a Get function (or
+/// holds elsewhere); null stays null.
+template <typename Ref>
+CFHolder<Ref> retained(Ref ref)
+{
+    if (ref != nullptr) {
+        CFRetain(ref);
+    }
+    return CFHolder<Ref>(ref);
+}
+
 /// One I/O Kit object (a registry entry, an iterator, a notification), released with
 /// IOObjectRelease.
 class IOHolder {
@@ -79,6 +91,49 @@ public:
 
 private:
     io_object_t object_ = IO_OBJECT_NULL;
+};
+
+/// A connection to the root power domain for the system's sleep and wake notifications
+/// (IORegisterForSystemPower): the session, its notification port and the notifier, given back
+/// in the order the system asks for (deregister, close the session, destroy the port).
+class SystemPowerConnection {
+public:
+    SystemPowerConnection() = default;
+    ~SystemPowerConnection() { close(); }
+    SystemPowerConnection(const SystemPowerConnection&) = delete;
+    SystemPowerConnection& operator=(const SystemPowerConnection&) = delete;
+
+    /// Registers `callback` with `context`; false when the system refused.
+    bool open(void* context, IOServiceInterestCallback callback);
+    void close();
+    explicit operator bool() const { return rootPort_ != IO_OBJECT_NULL; }
+    /// The session that IOAllowPowerChange answers on.
+    io_connect_t rootPort() const { return rootPort_; }
+    /// The run-loop source of the notification port (owned by the port).
+    CFRunLoopSourceRef runLoopSource() const;
+
+private:
+    io_connect_t rootPort_ = IO_OBJECT_NULL;
+    IONotificationPortRef notifyPort_ = nullptr;
+    io_object_t notifier_ = IO_OBJECT_NULL;
+};
+
+/// A source added to a run loop in one mode for the lifetime of the object.
+class RunLoopSourceAttachment {
+public:
+    RunLoopSourceAttachment(CFRunLoopRef loop, CFRunLoopSourceRef source, CFStringRef mode)
+        : loop_(loop), source_(source), mode_(mode)
+    {
+        CFRunLoopAddSource(loop_, source_, mode_);
+    }
+    ~RunLoopSourceAttachment() { CFRunLoopRemoveSource(loop_, source_, mode_); }
+    RunLoopSourceAttachment(const RunLoopSourceAttachment&) = delete;
+    RunLoopSourceAttachment& operator=(const RunLoopSourceAttachment&) = delete;
+
+private:
+    CFRunLoopRef loop_;
+    CFRunLoopSourceRef source_;
+    CFStringRef mode_;
 };
 
 /// A CFString as UTF-8; empty for a null reference or a value that is not a string.

@@ -14,6 +14,7 @@
 #include <tvpolicy/host/Utilities.h>
 
 #include "checks/MacOSVersion.h"
+#include "host/probe/darwin/DarwinApplications.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {
@@ -173,6 +174,14 @@ void DarwinHostProbe::openURL(const std::string& url)
 {
     int status = std::system(("open " + url).c_str());
     static_cast<void>(status);
+}
+
+HostProbe::ApplicationListing DarwinHostProbe::applicationListing() const
+{
+    // A machine with many applications prints a few megabytes; this bounds a runaway profiler.
+    constexpr std::size_t profilerLimit = 256u << 20;
+    // A profiler that cannot start gives an empty document, which the reader reports as unparsable.
+    return {ApplicationListing::Format::PropertyList, darwin::applicationsPropertyList(profilerLimit)};
 }
 
 HostProbe& systemHost()

@@ -28,6 +28,7 @@ public:
     std::vector<unsigned char> dnsQuery(const std::string& name, int type,
                                         const std::optional<NameServer>& server) const override;
     std::string dnsDefaultDomain() const override;
+    ApplicationListing applicationListing() const override;
 };
 
 namespace darwin {

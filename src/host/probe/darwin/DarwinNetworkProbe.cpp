@@ -5,12 +5,10 @@
 #include <cstring>
 #include <memory>
 
-#include <arpa/inet.h>
 #include <ifaddrs.h>
 #include <net/if.h>
 #include <net/if_dl.h>
 #include <net/if_media.h>
-#include <netinet/in.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <sys/sockio.h>
@@ -21,6 +19,7 @@
 #include <IOKit/network/IOEthernetInterface.h>
 #include <IOKit/network/IONetworkInterface.h>
 #include <IOKit/network/IONetworkMedium.h>
+#include <Security/Authorization.h>
 #include <SystemConfiguration/SCDynamicStore.h>
 #include <SystemConfiguration/SCDynamicStoreCopyDHCPInfo.h>
 #include <SystemConfiguration/SCDynamicStoreKey.h>
@@ -31,6 +30,7 @@
 #include <tvpolicy/host/Utilities.h>
 
 #include "host/parse/MacHardware.h"
+#include "host/probe/InterfaceAddressList.h"
 #include "host/probe/OwnedFd.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
@@ -43,10 +43,6 @@ namespace {
 
 using darwin::CFHolder;
 using darwin::IOHolder;
-
-struct IfaddrsFree {
-    void operator()(ifaddrs* list) const { ::freeifaddrs(list); }
-};
 
 using Socket = tvpolicy::probe::OwnedFd;
 
@@ -132,8 +128,7 @@ CFHolder<CFDictionaryRef> globalDNS(SCDynamicStoreRef store)
     if (!value || CFGetTypeID(value.get()) != CFDictionaryGetTypeID()) {
         return CFHolder<CFDictionaryRef>();
     }
-    CFRetain(value.get());
-    return CFHolder<CFDictionaryRef>(static_cast<CFDictionaryRef>(value.get()));
+    return darwin::retained(static_cast<CFDictionaryRef>(value.get()));
 }
 
 // Forces the configuration refresh of the interface of `interfaces` (an array of
@@ -148,50 +143,24 @@ bool refreshNamed(CFArrayRef items, const std::string& name, bool services)
                      : static_cast<SCNetworkInterfaceRef>(item);
         CFStringRef bsdName = interface != nullptr ? SCNetworkInterfaceGetBSDName(interface) : nullptr;
         if (bsdName != nullptr && wanted && CFStringCompare(bsdName, wanted.get(), 0) == kCFCompareEqualTo) {
-            bool refreshed = SCNetworkInterfaceForceConfigurationRefresh(interface);
-            std::printf("Mac-OS-X DHCP Renew Status = %d\n", refreshed ? 1 : 0);
-            return refreshed;
+            // The status line is the caller's (the interface inventory prints it).
+            return SCNetworkInterfaceForceConfigurationRefresh(interface);
         }
     }
     return false;
+}
+
+// Interfaces named en* are the Ethernet and Wi-Fi ports: candidates whatever the family.
+bool ethernetPortName(const ifaddrs& entry)
+{
+    return entry.ifa_name != nullptr && std::strncmp(entry.ifa_name, "en", 2) == 0;
 }
 
 }  // namespace
 
 std::optional<std::vector<NetworkProbe::AddressEntry>> DarwinNetworkProbe::interfaceAddresses() const
 {
-    ifaddrs* raw = nullptr;
-    if (::getifaddrs(&raw) != 0) {
-        return std::nullopt;
-    }
-    std::unique_ptr<ifaddrs, IfaddrsFree> list(raw);
-    std::vector<AddressEntry> entries;
-    for (const ifaddrs* item = raw; item != nullptr; item = item->ifa_next) {
-        AddressEntry entry;
-        entry.name = item->ifa_name != nullptr ? item->ifa_name : "";
-        entry.flags = item->ifa_flags;
-        // Interfaces named en* are the Ethernet and Wi-Fi ports: candidates whatever the family.
-        entry.hardwareCandidate = entry.name.compare(0, 2, "en") == 0;
-        const sockaddr* address = item->ifa_addr;
-        char text[INET6_ADDRSTRLEN] = "";
-        if (address == nullptr) {
-            entry.family = Family::Other;
-        } else if (address->sa_family == AF_INET) {
-            entry.family = Family::IPv4;
-            if (::inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in*>(address)->sin_addr, text, sizeof text)) {
-                entry.address = text;
-            }
-        } else if (address->sa_family == AF_INET6) {
-            entry.family = Family::IPv6;
-            if (::inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6*>(address)->sin6_addr, text, sizeof text)) {
-                entry.address = text;
-            }
-        } else if (address->sa_family == AF_LINK) {
-            entry.family = Family::Link;
-        }
-        entries.push_back(std::move(entry));
-    }
-    return entries;
+    return probe::interfaceAddressList(AF_LINK, &ethernetPortName);
 }
 
 std::optional<NetworkProbe::Hardware> DarwinNetworkProbe::interfaceHardware(const std::string& name) const
@@ -279,13 +248,14 @@ bool DarwinNetworkProbe::renewAddress(const std::string& name)
     return refreshNamed(interfaces.get(), name, false);
 }
 
-bool DarwinNetworkProbe::renewAddressWithAuthorization(const std::string& name, AuthorizationRef authorization)
+bool DarwinNetworkProbe::renewAddressAuthorized(const std::string& name, const void* authorization)
 {
     if (authorization == nullptr) {
         return false;
     }
-    CFHolder<SCPreferencesRef> preferences(
-        SCPreferencesCreateWithAuthorization(kCFAllocatorDefault, CFSTR("DissolvableAgent"), nullptr, authorization));
+    CFHolder<SCPreferencesRef> preferences(SCPreferencesCreateWithAuthorization(
+        kCFAllocatorDefault, CFSTR("DissolvableAgent"), nullptr,
+        static_cast<AuthorizationRef>(const_cast<void*>(authorization))));
     if (!preferences) {
         return false;
     }

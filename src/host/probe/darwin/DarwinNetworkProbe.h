@@ -1,7 +1,5 @@
 #pragma once
 
-#include <Security/Authorization.h>
-
 #include <tvpolicy/host/NetworkProbe.h>
 
 namespace tvpolicy {
@@ -18,6 +16,9 @@ public:
     std::vector<std::string> dnsSearchDomains() const override;
     std::string bssidCommand() const override;
     bool renewAddress(const std::string& name) override;
+    /// Through the preferences opened with the AuthorizationRef `authorization` (the services of
+    /// the current set).
+    bool renewAddressAuthorized(const std::string& name, const void* authorization) override;
     GuestTools guestTools() const override;
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     std::optional<WifiStatus> wifiStatus() const override;
@@ -26,10 +27,6 @@ public:
                        std::string& error) override;
     std::vector<WifiSettings> wifiStoredProfiles() const override;
     bool wifiStoreProfile(const WifiSettings& settings, std::string& error) override;
-
-    /// The configuration refresh of `name` through the preferences opened with `authorization`
-    /// (the services of the current set); false at once for a null authorization.
-    static bool renewAddressWithAuthorization(const std::string& name, AuthorizationRef authorization);
 };
 
 }  // namespace tvpolicy

@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <memory>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
 #include <ifaddrs.h>
 #include <linux/if_arp.h>
@@ -17,16 +16,13 @@
 
 #include "host/parse/NetText.h"
 #include "host/parse/ProcText.h"
+#include "host/probe/InterfaceAddressList.h"
 #include "host/probe/OwnedFd.h"
 #include "host/probe/linux/NetworkManager.h"
 
 namespace tvpolicy {
 
 namespace {
-
-struct IfaddrsFree {
-    void operator()(ifaddrs* list) const { ::freeifaddrs(list); }
-};
 
 using Fd = tvpolicy::probe::OwnedFd;
 
@@ -89,41 +85,18 @@ std::string resolvConf()
     return text;
 }
 
+// The link-level entry of an interface of Ethernet hardware type.
+bool ethernetLinkEntry(const ifaddrs& entry)
+{
+    return entry.ifa_addr != nullptr && entry.ifa_addr->sa_family == AF_PACKET &&
+           reinterpret_cast<const sockaddr_ll*>(entry.ifa_addr)->sll_hatype == ARPHRD_ETHER;
+}
+
 }  // namespace
 
 std::optional<std::vector<NetworkProbe::AddressEntry>> LinuxNetworkProbe::interfaceAddresses() const
 {
-    ifaddrs* raw = nullptr;
-    if (::getifaddrs(&raw) != 0) {
-        return std::nullopt;
-    }
-    std::unique_ptr<ifaddrs, IfaddrsFree> list(raw);
-    std::vector<AddressEntry> entries;
-    for (const ifaddrs* item = raw; item != nullptr; item = item->ifa_next) {
-        AddressEntry entry;
-        entry.name = item->ifa_name != nullptr ? item->ifa_name : "";
-        entry.flags = item->ifa_flags;
-        const sockaddr* address = item->ifa_addr;
-        char text[INET6_ADDRSTRLEN] = "";
-        if (address == nullptr) {
-            entry.family = Family::Other;
-        } else if (address->sa_family == AF_INET) {
-            entry.family = Family::IPv4;
-            if (::inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in*>(address)->sin_addr, text, sizeof text)) {
-                entry.address = text;
-            }
-        } else if (address->sa_family == AF_INET6) {
-            entry.family = Family::IPv6;
-            if (::inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6*>(address)->sin6_addr, text, sizeof text)) {
-                entry.address = text;
-            }
-        } else if (address->sa_family == AF_PACKET) {
-            entry.family = Family::Link;
-            entry.hardwareCandidate = reinterpret_cast<const sockaddr_ll*>(address)->sll_hatype == ARPHRD_ETHER;
-        }
-        entries.push_back(std::move(entry));
-    }
-    return entries;
+    return probe::interfaceAddressList(AF_PACKET, &ethernetLinkEntry);
 }
 
 std::optional<NetworkProbe::Hardware> LinuxNetworkProbe::interfaceHardware(const std::string& name) const
