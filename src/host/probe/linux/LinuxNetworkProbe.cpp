@@ -1,5 +1,6 @@
 #include "host/probe/linux/LinuxNetworkProbe.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 
@@ -89,6 +90,30 @@ std::string resolvConf()
     return text;
 }
 
+// The host's DNS domains from the first source that names any: systemd-resolved, else the
+// domain-name option of NetworkManager's DHCP lease, else resolv.conf. A source that is not on
+// the bus, answers with an error or in another shape, or names no domain passes to the next.
+parse::ResolverDomains hostDomains()
+{
+    NetworkManagerClient client;
+    std::vector<std::string> found = client.resolvedDomains().value_or(std::vector<std::string>());
+    found.erase(std::remove(found.begin(), found.end(), std::string()), found.end());
+    if (found.empty()) {
+        // Some DHCP servers put several domains into the option, separated by blanks.
+        std::string dhcp = client.dhcpDomainName();
+        std::string blanks = " \t\r\n";
+        split(dhcp, blanks, found);
+        found.erase(std::remove(found.begin(), found.end(), std::string()), found.end());
+    }
+    if (found.empty()) {
+        return parse::resolvConfDomains(resolvConf());
+    }
+    parse::ResolverDomains domains;
+    domains.domain = found.front();
+    domains.search = std::move(found);
+    return domains;
+}
+
 }  // namespace
 
 std::optional<std::vector<NetworkProbe::AddressEntry>> LinuxNetworkProbe::interfaceAddresses() const
@@ -172,29 +197,9 @@ NetworkProbe::LinkState LinuxNetworkProbe::linkState(const std::string& name) co
     return state;
 }
 
-std::string LinuxNetworkProbe::dnsSuffix() const
-{
-    NetworkManagerClient client;
-    if (std::optional<std::vector<std::string>> domains = client.resolvedDomains()) {
-        if (!domains->empty()) {
-            return domains->front();
-        }
-    }
-    std::string dhcp = client.dhcpDomainName();
-    if (!dhcp.empty()) {
-        return dhcp;
-    }
-    return parse::resolvConfDomains(resolvConf()).domain;
-}
+std::string LinuxNetworkProbe::dnsSuffix() const { return hostDomains().domain; }
 
-std::vector<std::string> LinuxNetworkProbe::dnsSearchDomains() const
-{
-    NetworkManagerClient client;
-    if (std::optional<std::vector<std::string>> domains = client.resolvedDomains()) {
-        return *domains;
-    }
-    return parse::resolvConfDomains(resolvConf()).search;
-}
+std::vector<std::string> LinuxNetworkProbe::dnsSearchDomains() const { return hostDomains().search; }
 
 std::string LinuxNetworkProbe::bssidCommand() const
 {
