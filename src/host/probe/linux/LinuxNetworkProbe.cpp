@@ -213,7 +213,10 @@ bool LinuxNetworkProbe::renewAddress(const std::string& name)
     if (client.reactivate(name)) {
         return true;
     }
-    return currentHost().runShellCommand("networkctl renew " + shellQuoted(name) + " 2>/dev/null") == 0;
+    // The shell says so when networkctl succeeded: a shell that could not be started says
+    // nothing, where its bare status (0 then) would read as success.
+    return currentHost().commandOutput("networkctl renew " + shellQuoted(name) + " >/dev/null 2>&1 && echo renewed", 64) ==
+           "renewed\n";
 }
 
 NetworkProbe::GuestTools LinuxNetworkProbe::guestTools() const
