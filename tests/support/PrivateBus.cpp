@@ -21,7 +21,7 @@ PrivateBus::PrivateBus() : socket_((tmp_.path() / "bus").string()) {}
 
 PrivateBus::~PrivateBus()
 {
-    mock_.reset();
+    peers_.clear();
     daemon_.reset();
     if (!addressSet_) {
         return;
@@ -58,8 +58,12 @@ bool PrivateBus::start()
 
 bool PrivateBus::startMock(const std::string& templateName, const std::vector<std::string>& readyCall)
 {
-    mock_ = std::make_unique<ChildProcess>(
-        std::vector<std::string>{"/usr/bin/python3", "-m", "dbusmock", "--template", templateName});
+    return startPeer({"/usr/bin/python3", "-m", "dbusmock", "--template", templateName}, readyCall);
+}
+
+bool PrivateBus::startPeer(const std::vector<std::string>& argv, const std::vector<std::string>& readyCall)
+{
+    peers_.push_back(std::make_unique<ChildProcess>(argv));
     std::vector<std::string> probe = {"call"};
     probe.insert(probe.end(), readyCall.begin(), readyCall.end());
     for (int i = 0; i < 200; ++i) {
@@ -84,6 +88,14 @@ nlohmann::json PrivateBus::call(const std::vector<std::string>& args) const
     CliResult result = busctl(call);
     EXPECT_EQ(result.exitCode, 0) << (args.size() > 3 ? args[3] : std::string()) << ": " << result.err;
     return result.out.empty() ? nlohmann::json() : nlohmann::json::parse(result.out, nullptr, false);
+}
+
+nlohmann::json PrivateBus::mockControl(const std::string& service, const std::string& path, const std::string& method,
+                                       const std::string& signature, const std::vector<std::string>& args) const
+{
+    std::vector<std::string> full = {service, path, "org.freedesktop.DBus.Mock", method, signature};
+    full.insert(full.end(), args.begin(), args.end());
+    return call(full);
 }
 
 void PrivateBusTest::SetUp()

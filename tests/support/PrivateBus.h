@@ -29,9 +29,12 @@ public:
 
     /// Starts the daemon; false when it did not come up.
     bool start();
-    /// Starts dbusmock's `templateName` and waits until `readyCall` (busctl arguments after
-    /// "call") answers; false when it never did.
+    /// Starts dbusmock's `templateName` (a template of dbusmock's or the path of a template
+    /// file) and waits until `readyCall` (busctl arguments after "call") answers; false when
+    /// it never did. Several mocks may run on one bus.
     bool startMock(const std::string& templateName, const std::vector<std::string>& readyCall);
+    /// Starts any program that serves on the bus (`argv`) and waits for `readyCall` the same way.
+    bool startPeer(const std::vector<std::string>& argv, const std::vector<std::string>& readyCall);
 
     /// The bus address ("unix:path=...").
     std::string address() const { return "unix:path=" + socket_; }
@@ -40,6 +43,9 @@ public:
     /// busctl call with `args`; its parsed JSON reply (null when it printed nothing). Failures
     /// are reported as test failures.
     nlohmann::json call(const std::vector<std::string>& args) const;
+    /// Calls `method` of dbusmock's control interface on the object `path` of `service`.
+    nlohmann::json mockControl(const std::string& service, const std::string& path, const std::string& method,
+                               const std::string& signature, const std::vector<std::string>& args) const;
 
 private:
     TempDir tmp_;
@@ -47,7 +53,7 @@ private:
     std::optional<std::string> savedAddress_;
     bool addressSet_ = false;
     std::unique_ptr<ChildProcess> daemon_;
-    std::unique_ptr<ChildProcess> mock_;
+    std::vector<std::unique_ptr<ChildProcess>> peers_;
 };
 
 /// A test with a private bus running (skipped where it cannot run); fixtures start their mock

@@ -1,5 +1,6 @@
 #include "host/probe/linux/LinuxNetworkProbe.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <memory>
 
@@ -92,6 +93,30 @@ bool ethernetLinkEntry(const ifaddrs& entry)
            reinterpret_cast<const sockaddr_ll*>(entry.ifa_addr)->sll_hatype == ARPHRD_ETHER;
 }
 
+// The host's DNS domains from the first source that names any: systemd-resolved, else the
+// domain-name option of NetworkManager's DHCP lease, else resolv.conf. A source that is not on
+// the bus, answers with an error or in another shape, or names no domain passes to the next.
+parse::ResolverDomains hostDomains()
+{
+    NetworkManagerClient client;
+    std::vector<std::string> found = client.resolvedDomains().value_or(std::vector<std::string>());
+    found.erase(std::remove(found.begin(), found.end(), std::string()), found.end());
+    if (found.empty()) {
+        // Some DHCP servers put several domains into the option, separated by blanks.
+        std::string dhcp = client.dhcpDomainName();
+        std::string blanks = " \t\r\n";
+        split(dhcp, blanks, found);
+        found.erase(std::remove(found.begin(), found.end(), std::string()), found.end());
+    }
+    if (found.empty()) {
+        return parse::resolvConfDomains(resolvConf());
+    }
+    parse::ResolverDomains domains;
+    domains.domain = found.front();
+    domains.search = std::move(found);
+    return domains;
+}
+
 }  // namespace
 
 std::optional<std::vector<NetworkProbe::AddressEntry>> LinuxNetworkProbe::interfaceAddresses() const
@@ -145,29 +170,9 @@ NetworkProbe::LinkState LinuxNetworkProbe::linkState(const std::string& name) co
     return state;
 }
 
-std::string LinuxNetworkProbe::dnsSuffix() const
-{
-    NetworkManagerClient client;
-    if (std::optional<std::vector<std::string>> domains = client.resolvedDomains()) {
-        if (!domains->empty()) {
-            return domains->front();
-        }
-    }
-    std::string dhcp = client.dhcpDomainName();
-    if (!dhcp.empty()) {
-        return dhcp;
-    }
-    return parse::resolvConfDomains(resolvConf()).domain;
-}
+std::string LinuxNetworkProbe::dnsSuffix() const { return hostDomains().domain; }
 
-std::vector<std::string> LinuxNetworkProbe::dnsSearchDomains() const
-{
-    NetworkManagerClient client;
-    if (std::optional<std::vector<std::string>> domains = client.resolvedDomains()) {
-        return *domains;
-    }
-    return parse::resolvConfDomains(resolvConf()).search;
-}
+std::vector<std::string> LinuxNetworkProbe::dnsSearchDomains() const { return hostDomains().search; }
 
 std::string LinuxNetworkProbe::bssidCommand() const
 {
@@ -181,7 +186,10 @@ bool LinuxNetworkProbe::renewAddress(const std::string& name)
     if (client.reactivate(name)) {
         return true;
     }
-    return currentHost().runShellCommand("networkctl renew " + shellQuoted(name) + " 2>/dev/null") == 0;
+    // The shell says so when networkctl succeeded: a shell that could not be started says
+    // nothing, where its bare status (0 then) would read as success.
+    return currentHost().commandOutput("networkctl renew " + shellQuoted(name) + " >/dev/null 2>&1 && echo renewed", 64) ==
+           "renewed\n";
 }
 
 NetworkProbe::GuestTools LinuxNetworkProbe::guestTools() const
