@@ -1,20 +1,19 @@
 #pragma once
 
-// What the fuzz targets share: quiet streams, a described host, and the test of whether a task
-// tree may be performed without touching this machine.
+// What the fuzz targets share: quiet streams and a described host that stands in for this
+// machine: scripts (VersionFromScript) are recorded, not run, and file searches (File,
+// AvastVersion) walk its empty folder.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
-#include <list>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include <unistd.h>
 
 #include <tvpolicy/host/FakeHost.h>
-#include <tvpolicy/policy/Task.h>
 
 namespace fuzz {
 
@@ -45,7 +44,8 @@ inline void isolateFromMachine()
 }
 
 /// A described host whose file system is an empty folder: every system path the checks ask
-/// for lands inside it, every command is recorded, not run.
+/// for lands inside it (a path that would not is a finding: the process aborts), every
+/// command is recorded, not run.
 class EmptyHost {
 public:
     EmptyHost()
@@ -54,10 +54,12 @@ public:
         if (mkdtemp(pattern) == nullptr) {
             std::abort();
         }
-        root_ = pattern;
-        host_.pathMap["/"] = root_ + "/";
+        host_.root = std::string(pattern) + "/";
+        // Relative paths too; no ".." climbs out of the folder (FakeHost keeps to it).
+        host_.pathMap["/"] = host_.root;
+        host_.pathMap[""] = host_.root;
     }
-    ~EmptyHost() { rmdir(root_.c_str()); }
+    ~EmptyHost() { rmdir(host_.root.c_str()); }
     EmptyHost(const EmptyHost&) = delete;
     EmptyHost& operator=(const EmptyHost&) = delete;
 
@@ -69,8 +71,20 @@ public:
     }
 
 private:
-    std::string root_;
-    tvpolicy::FakeHost host_;
+    struct Confined : tvpolicy::FakeHost {
+        std::string root;
+        std::string systemPath(const std::string& path) const override
+        {
+            std::string mapped = FakeHost::systemPath(path);
+            std::string normal = std::filesystem::path(mapped).lexically_normal().string();
+            if (normal.compare(0, root.size(), root) != 0 && normal + "/" != root) {
+                std::fprintf(stderr, "system path %s left the described host: %s\n", path.c_str(), mapped.c_str());
+                std::abort();
+            }
+            return mapped;
+        }
+    };
+    Confined host_;
 };
 
 /// What a target that performs what it parses sets up once: no logs, no way out.
@@ -85,30 +99,6 @@ inline tvpolicy::FakeHost& emptyHost()
 {
     static EmptyHost empty;
     return empty.host();
-}
-
-/// Whether every task of these trees reaches the machine only through the host probe. Scripts
-/// (`VersionFromScript`) and file searches (`File`, `AvastVersion`) do not yet, so trees
-/// holding one are parsed but not performed.
-inline bool performableOnDescribedHost(const std::list<Task*>& roots)
-{
-    std::vector<Task*> pending(roots.begin(), roots.end());
-    while (!pending.empty()) {
-        Task* task = pending.back();
-        pending.pop_back();
-        std::string type = task->getType();
-        if (type == "VersionFromScriptTask" || type == "FileTask" || type == "AvastVersionTask") {
-            return false;
-        }
-        std::list<Task*>* terms = task->getTerms();
-        if (terms != nullptr) {
-            pending.insert(pending.end(), terms->begin(), terms->end());
-            if (type == "notTask") {
-                delete terms;  // notTask hands out a list of its own
-            }
-        }
-    }
-    return true;
 }
 
 }  // namespace fuzz

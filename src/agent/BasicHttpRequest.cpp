@@ -8,20 +8,22 @@
 #include <tvpolicy/host/Machine.h>
 
 #include "net/CurlHandle.h"
+#include "net/ResponseText.h"
 
 namespace com::torvane {
 
 namespace {
 
 using tvpolicy::net::appendBounded;
+using tvpolicy::net::bodyAfterPreamble;
 using tvpolicy::net::BoundedText;
 using tvpolicy::net::CurlHandle;
 using tvpolicy::net::CurlList;
+using tvpolicy::net::cookieIn;
 
 const char* const compatibilityUserAgent = "KVA Agent";
 const std::string agentUserAgent = "Torvane-Agent/5.2.6.69 (" + Machine::getOSString() + ";)";
 const std::string agentHeader = "X-TVUserAgent: " + agentUserAgent;
-const std::string cookieMark = "Set-Cookie: ";
 
 std::mutex boundsMutex;
 HttpBounds processBounds;
@@ -52,20 +54,6 @@ void applyBounds(CURL* handle, const HttpBounds& bounds)
     curl_easy_setopt(handle, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(bounds.maxBodyBytes));
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, bounds.protocols.c_str());
     curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, bounds.protocols.c_str());
-}
-
-// The text after the first "Set-Cookie: " of `text` up to the next carriage return (or the
-// end); nothing when the mark is absent.
-bool cookieIn(const std::string& text, std::string& cookie)
-{
-    std::size_t mark = text.find(cookieMark);
-    if (mark == std::string::npos) {
-        return false;
-    }
-    std::size_t start = mark + cookieMark.size();
-    std::size_t end = text.find('\r', start);
-    cookie = text.substr(start, end == std::string::npos ? std::string::npos : end - start);
-    return true;
 }
 
 // A file written within the body cap, for getBinary when the bounds are on.
@@ -175,8 +163,7 @@ std::string* BasicHttpRequest::get(std::string url, std::string cookie, bool str
     std::string body = transfer(HttpOperation::get, url, std::string(), cookie, std::string()).contents;
     auto result = std::make_unique<std::string>();
     if (stripPreamble) {
-        std::size_t blank = body.size() >= 4 ? body.find("\r\n\r\n") : std::string::npos;
-        *result = blank == std::string::npos ? std::move(body) : body.substr(blank + 4);
+        *result = bodyAfterPreamble(std::move(body));
     } else {
         cookieIn(body, *result);  // the body, not the headers: this is how the agent reads it
     }

@@ -1,6 +1,45 @@
 #include <tvpolicy/host/FakeHost.h>
 
+#include <string>
+#include <vector>
+
 namespace tvpolicy {
+
+namespace {
+
+// `rest` of a mapped path with "." and ".." resolved by text alone, a ".." at the top going
+// nowhere (as "/.." is "/"), so that no path leaves the folder its prefix maps to. A leading
+// and a trailing "/" are kept; repeated ones collapse.
+std::string confined(const std::string& rest)
+{
+    std::vector<std::string> parts;
+    std::size_t start = 0;
+    while (start <= rest.size()) {
+        std::size_t end = rest.find('/', start);
+        if (end == std::string::npos) {
+            end = rest.size();
+        }
+        std::string part = rest.substr(start, end - start);
+        if (part == "..") {
+            if (!parts.empty()) {
+                parts.pop_back();
+            }
+        } else if (!part.empty() && part != ".") {
+            parts.push_back(std::move(part));
+        }
+        start = end + 1;
+    }
+    std::string result = !rest.empty() && rest.front() == '/' ? "/" : "";
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        result += (i == 0 ? "" : "/") + parts[i];
+    }
+    if (!parts.empty() && rest.back() == '/') {
+        result += '/';
+    }
+    return result;
+}
+
+}  // namespace
 
 std::string FakeHost::systemPath(const std::string& path) const
 {
@@ -11,7 +50,7 @@ std::string FakeHost::systemPath(const std::string& path) const
             best = &mapping;
         }
     }
-    return best == nullptr ? path : best->second + path.substr(best->first.size());
+    return best == nullptr ? path : best->second + confined(path.substr(best->first.size()));
 }
 
 std::string FakeHost::osProductVersion() const { return productVersion; }

@@ -1,9 +1,14 @@
 #include <tvpolicy/checks/File.h>
 #include <tvpolicy/checks/FileTask.h>
+#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/HostProbe.h>
 
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -155,3 +160,24 @@ TEST(File, LastModTimeTakesTheBackslashedPath)
 }
 
 }  // namespace
+
+// A described host's searches never leave its folder: a start path that climbs with ".." stops
+// at the folder's top, as "/.." is "/", and a relative one begins there too.
+TEST(FileTask, DescribedHostSearchesStayInsideItsFolder)
+{
+    TempDir tmp;
+    tmp.write("outside/marker", "");
+    tmp.write("root/etc/marker", "");
+    tvpolicy::FakeHost host;
+    host.pathMap["/"] = (tmp.path() / "root").string() + "/";
+    host.pathMap[""] = host.pathMap["/"];
+    tvpolicy::ScopedHost described(host);
+    const std::vector<std::pair<std::string, bool>> cases = {
+        {"/../outside", false}, {"//:/etc/../../outside", false}, {"../outside", false},
+        {"/../../../etc", true}, {"etc", true}, {"", true},
+    };
+    for (const auto& [start, found] : cases) {
+        File file("marker", false, "", start);
+        EXPECT_EQ(file.exists(), found) << start;
+    }
+}

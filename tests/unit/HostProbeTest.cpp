@@ -36,6 +36,26 @@ TEST(FakeHost, LongestPrefixWins)
     }
 }
 
+TEST(HostProbe, FakeHostKeepsMappedPathsInsideTheirFolder)
+{
+    FakeHost host;
+    host.pathMap = {{"/", "/tmp/root/"}, {"", "/tmp/root/"}, {"/opt/app", "/tmp/app"}};
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"/", "/tmp/root/"},
+        {"/..", "/tmp/root/"},
+        {"/../../etc/passwd", "/tmp/root/etc/passwd"},
+        {"/usr/./lib/../share/", "/tmp/root/usr/share/"},
+        {"etc", "/tmp/root/etc"},
+        {"../../../etc", "/tmp/root/etc"},
+        {"", "/tmp/root/"},
+        {"/opt/app/../../../x", "/tmp/app/x"},
+        {"/opt/app/bin//tool", "/tmp/app/bin/tool"},
+    };
+    for (const auto& [path, mapped] : cases) {
+        EXPECT_EQ(host.systemPath(path), mapped) << path;
+    }
+}
+
 TEST(HostProbe, RealBackendMapsNothing)
 {
     EXPECT_EQ(tvpolicy::systemHost().systemPath("/Library/Receipts/"), "/Library/Receipts/");

@@ -145,6 +145,7 @@ std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std:
             root += '/';
         }
         host.pathMap["/"] = root;
+        host.pathMap[""] = root;  // a relative path, which would otherwise meet the working folder
     } catch (const FieldError& failure) {
         error = path + ": " + failure.what();
         return nullptr;

@@ -16,7 +16,9 @@ class TVPOLICY_API FakeHost : public HostProbe {
 public:
     /// Fixed system paths mapped by prefix: {"/Library/Receipts/", "/tmp/x/receipts/"} sends
     /// "/Library/Receipts/A.pkg" to "/tmp/x/receipts/A.pkg". The longest matching prefix
-    /// wins; an unmapped path is answered unchanged.
+    /// wins; an unmapped path is answered unchanged. What follows the prefix never climbs out
+    /// of its folder: "/Library/../../etc" with {"/", "/tmp/x/"} gives "/tmp/x/etc". Map ""
+    /// as well to keep relative paths inside a folder too.
     std::map<std::string, std::string> pathMap;
 
     std::string productVersion;       ///< answered by osProductVersion(), as a tool prints it
