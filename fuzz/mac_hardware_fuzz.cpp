@@ -1,5 +1,6 @@
-// The numbers of the macOS I/O registry and power management: medium types, address bytes and
-// power messages, all taken from the input as the registry hands them out.
+// The numbers of the macOS I/O registry: medium types and address bytes, taken from the input as
+// the registry hands them out. (Power messages are dispatched by the power notifier, whose rule
+// the unit tests cover message by message.)
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -19,12 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string mac = macFromBytes(std::vector<unsigned char>(data, data + size));
     if (mac.size() != (size >= 6 ? 17U : 0U)) {
         std::abort();
-    }
-    for (std::uint32_t message : types) {
-        auto event = powerEventForMessage(message);
-        if (event && (event->state < 1 || event->state > 4)) {
-            std::abort();
-        }
     }
     return 0;
 }
