@@ -57,6 +57,7 @@ INSTANTIATE_TEST_SUITE_P(Usage, CliUsageTest, testing::Values(
     UsageCase{{"--version"}, 0, "tvpolicy ", ""},
     UsageCase{{}, 2, "", "subcommand"},
     UsageCase{{"nosuchcommand"}, 2, "", "nosuchcommand"},
+    UsageCase{{"lnit", "x.xml"}, 2, "", "unknown command or argument 'lnit' (did you mean 'lint'?)"},
     UsageCase{{"--log", "/nonexistent-dir/x.log", "tasks"}, 2, "", "cannot open log file"},
     UsageCase{{"tasks", "-v"}, 0, "ProcessExists", ""},  // global options after the subcommand
     UsageCase{{"compare", "1", "gte", "1", "--log", "/nonexistent-dir/x.log"}, 2, "", "cannot open log file"},

@@ -79,6 +79,19 @@ INSTANTIATE_TEST_SUITE_P(Policies, LintFlawTest, testing::Values(
              "<true/></section>\n</option>\n</policy>\n",
              "only-with-groups", 2, "type ONLY and has groups"},
     LintCase{"TooManySections", manySections(1000), "too-many-sections", 0, "1000 sections"},
+    LintCase{"MisspeltTopLevelSection",
+             "<policy name=\"p\">\n<section name=\"s\" primary=\"true\"><true/></section>\n<Sectoin name=\"t\"/>\n"
+             "</policy>\n",
+             "unknown-element", 3, "<Sectoin> under <policy> is not an element the policy reader uses: it was passed "
+             "over, not evaluated (did you mean <section>?)"},
+    LintCase{"FileExecute", inSection("<File fileName=\"passwd\" startPath=\"/etc\" execute=\"true\" args=\"-v\"/>"),
+             "file-execute", 3, "execute is read but nothing is started"},
+    LintCase{"StandAloneProhibited", inSection("<true/>", "primary=\"true\" prohibit=\"true\""),
+             "stand-alone-prohibited", 2, "fails the policy whatever its checks find"},
+    LintCase{"StandAloneWarning", inSection("<true/>", "primary=\"true\" severity=\"warning\""),
+             "stand-alone-warning", 2, "it still fails the policy"},
+    LintCase{"StandAloneSkip", inSection("<and skip=\"true\"><true/></and>"), "stand-alone-skip", 2,
+             "a skipped stand-alone section fails the policy"},
     LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"}),
     [](const testing::TestParamInfo<LintCase>& info) { return info.param.title; });
 
@@ -107,8 +120,14 @@ TEST(LintCommand, ExamplesAreCleanAndScriptsAreShown)
             continue;
         }
         ++policies;
-        auto result = runCli({"lint", file});
-        EXPECT_EQ(result.exitCode, 0) << file << "\n" << result.out << result.err;
+        auto result = runCli({"lint", file, "--json"});
+        nlohmann::json report = nlohmann::json::parse(result.out);
+        // The non-compliant example shows on purpose what fails a policy whatever its checks find.
+        for (const auto& finding : report["findings"]) {
+            EXPECT_TRUE(entry.path().filename() == "noncompliant.xml" &&
+                        finding["kind"].get<std::string>().rfind("stand-alone-", 0) == 0)
+                << file << ": " << finding.dump();
+        }
     }
     EXPECT_GE(policies, 5u);
     auto scripts = runCli({"lint", std::string(TVPOLICY_SOURCE_DIR) + "/examples/file-and-version-checks.xml"});

@@ -48,7 +48,7 @@ TEST(MonitorCommand, RunsEachMonitorWhenDueInOrder)
                                    "<Monitor id='second' period='1' prohibit='true'><true/></Monitor>"
                                    "<Monitor id='single'><true/></Monitor></m>");
     auto result = runCli({"monitor", file.string(), "--count", "7"});
-    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.exitCode, 1) << result.err;  // 'second' reported false
     auto first = status("first", true);
     auto second = status("second", false);
     EXPECT_EQ(linesOf(result.out), (std::vector<std::string>{first, second, status("single", true), first, second,
@@ -114,5 +114,58 @@ TEST_P(MonitorSignalTest, StopsCleanlyBetweenRuns)
 }
 
 INSTANTIATE_TEST_SUITE_P(Signals, MonitorSignalTest, testing::Values("TERM", "INT"));
+
+}  // namespace
+
+namespace {
+
+struct UnreadCase {
+    std::string title;
+    std::string document;
+    std::string warning;  // on standard error of --once, and a finding of lint
+};
+
+class MonitorUnreadTest : public testing::TestWithParam<UnreadCase> {};
+
+// What a monitor does not evaluate is never passed in silence: warned, refused by --strict,
+// found by lint.
+TEST_P(MonitorUnreadTest, IsWarnedRefusedAndLinted)
+{
+    testing_support::TempDir dir;
+    auto file = dir.write("m.xml", GetParam().document).string();
+    auto once = runCli({"monitor", file, "--once"});
+    EXPECT_NE(once.err.find("tvpolicy monitor: warning: line "), std::string::npos) << once.err;
+    EXPECT_NE(once.err.find(GetParam().warning), std::string::npos) << once.err;
+    auto strict = runCli({"monitor", file, "--once", "--strict"});
+    EXPECT_EQ(strict.exitCode, 2);
+    EXPECT_EQ(strict.out, "");
+    auto lint = runCli({"lint", file});
+    EXPECT_EQ(lint.exitCode, 1) << lint.out << lint.err;
+    EXPECT_NE(lint.out.find(GetParam().warning), std::string::npos) << lint.out;
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, MonitorUnreadTest, testing::Values(
+    UnreadCase{"MisspeltElement",
+               "<monitors>\n<Monitor id='telnet' prohibit='true'><processExists procName='in.telnetd'/></Monitor>\n"
+               "</monitors>",
+               "<processExists> in monitor 'telnet' names no check kind"},
+    UnreadCase{"MisspeltAttribute",
+               "<monitors>\n<Monitor id='shell'><ProcessExists procname='bash'/></Monitor>\n</monitors>",
+               "attribute 'procname' of <ProcessExists> in monitor 'shell' is not one that ProcessExists reads"},
+    UnreadCase{"MonitorAttribute", "<monitors>\n<Monitor id='a' perod='5'><true/></Monitor>\n</monitors>",
+               "attribute 'perod' of <Monitor> 'a' is not one that a monitor reads"}),
+    [](const testing::TestParamInfo<UnreadCase>& info) { return info.param.title; });
+
+TEST(MonitorCommand, CountExitsByTheStatuses)
+{
+    testing_support::TempDir dir;
+    auto failing = dir.write("f.xml", "<m><Monitor id='a'><true/></Monitor><Monitor id='b'><false/></Monitor></m>");
+    EXPECT_EQ(runCli({"monitor", failing.string(), "--count", "2"}).exitCode, 1);
+    auto passing = dir.write("p.xml", "<m><Monitor id='a'><true/></Monitor></m>");
+    EXPECT_EQ(runCli({"monitor", passing.string(), "--count", "1"}).exitCode, 0);
+    auto lint = runCli({"lint", std::string(TVPOLICY_SOURCE_DIR) + "/examples/monitors.xml"});
+    EXPECT_EQ(lint.exitCode, 0) << lint.out;
+    EXPECT_NE(lint.out.find("note: monitor 'no-p2p-client' has prohibit=\"true\""), std::string::npos) << lint.out;
+}
 
 }  // namespace

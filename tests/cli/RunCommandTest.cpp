@@ -90,7 +90,7 @@ TEST(RunCommand, JsonIsOneCleanDocumentEvenWithTheLibraryLogShown)
     EXPECT_EQ(report["policy"], "Hardened workstation");
     EXPECT_EQ(report["result"], "FAIL");
     EXPECT_EQ(report["passed"], false);
-    EXPECT_EQ(report["counts"], nlohmann::json::parse(R"({"sections":4,"passed":1,"failed":1,"warning":1,"skipped":1})"));
+    EXPECT_EQ(report["counts"], nlohmann::json::parse(R"({"sections":4,"passed":1,"failed":1,"warning":1,"skipped":1,"notEvaluated":0})"));
     EXPECT_EQ(report["progress"]["max"], 4);
     std::vector<unsigned> statuses;
     for (const auto& item : report["items"]) {

@@ -25,7 +25,7 @@ std::string policyOf(const std::string& sectionBody, const std::string& head = "
     return "<policy name=\"p\">\n" + head + "<section name=\"s\" primary=\"true\">\n" + sectionBody + "</section>\n</policy>\n";
 }
 
-const std::string unableToRead = "tvpolicy run: Unable to read policy.\n\nPlease check your personal firewall settings and try again.\n";
+const std::string unableToRead = "tvpolicy run: Unable to read policy.\n";
 
 struct FlawedCase {
     std::string title;
@@ -48,6 +48,8 @@ TEST_P(FlawedInputTest, RefusesWithTheCauseAndTheDocumentedStatus)
     auto result = runCli(args);
     EXPECT_EQ(result.exitCode, c.exitCode) << result.out << result.err;
     EXPECT_EQ(result.out.find("PASS"), std::string::npos) << result.out;
+    // A local document gets its cause, never the advice about network settings.
+    EXPECT_EQ(result.err.find("personal firewall"), std::string::npos) << result.err;
     for (const std::string& text : c.inErr) {
         EXPECT_NE(result.err.find(text), std::string::npos) << "missing: " << text << "\nin: " << result.err;
     }
@@ -232,7 +234,13 @@ TEST_P(WriteFailureTest, IsExitTwoWithAMessage)
 
 INSTANTIATE_TEST_SUITE_P(Outputs, WriteFailureTest, testing::Values(
     WriteFailureCase{"FullDisk", ">/dev/full", "tvpolicy run: cannot write to standard output: No space left on device"},
-    WriteFailureCase{"ClosedStdout", ">&-", "tvpolicy run: cannot write to standard output: it is closed"}),
+    WriteFailureCase{"ClosedStdout", ">&-", "tvpolicy run: cannot write to standard output: it is closed"},
+    WriteFailureCase{"ReportUnwritable", "--report /nonexistent/dir/r.html",
+                     "tvpolicy run: the HTML report was not saved: cannot create a file beside"},
+    WriteFailureCase{"JunitUnwritable", "--junit /nonexistent/dir/r.xml",
+                     "tvpolicy run: the JUnit report was not saved: cannot create a file beside"},
+    WriteFailureCase{"ReportOverOutput", "--report r.out --output ./r.out",
+                     "--output and --report name the same file"}),
     [](const testing::TestParamInfo<WriteFailureCase>& info) { return info.param.title; });
 
 }  // namespace

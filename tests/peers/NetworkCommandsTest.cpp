@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <filesystem>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -85,7 +87,38 @@ TEST(HttpCommand, DownloadsIntoAFile)
     EXPECT_EQ(testing_support::readFile(file).size(), 1024u);
     result = runCli({"http", "download", server.url("/binary"), "-o", (dir.path() / "no" / "f").string()});
     EXPECT_EQ(result.exitCode, 2);
-    EXPECT_NE(result.err.find("cannot open"), std::string::npos) << result.err;
+    EXPECT_NE(result.err.find("cannot create a file beside"), std::string::npos) << result.err;
+}
+
+// An existing file changes only with a complete 2xx answer; otherwise it keeps every byte, no
+// temporary file stays beside it, and the cause is printed.
+TEST(HttpCommand, DownloadNeverSpoilsAnExistingFile)
+{
+    peers::HttpPeer server;
+    struct Case {
+        std::vector<std::string> args;
+        int exitCode;
+        std::string errPart;
+    };
+    const std::vector<Case> cases = {
+        {{"download", server.url("/status/404")}, 1, "was left unchanged: the server answered 404, not 2xx"},
+        {{"download", server.url("/endless"), "--max-size", "100000"}, 2, "larger than 100000 bytes"},
+        {{"download", server.url("/stalled"), "--timeout", "0.5"}, 2, "no complete answer came"},
+        {{"get", server.url("/status/404")}, 1, "was left unchanged"},
+        {{"post", server.url("/status/404")}, 1, "was left unchanged"},
+    };
+    for (const Case& c : cases) {
+        testing_support::TempDir dir;
+        auto file = dir.write("keep.txt", "precious");
+        std::vector<std::string> args = {"http"};
+        args.insert(args.end(), c.args.begin(), c.args.end());
+        args.insert(args.end(), {"-o", file.string()});
+        auto result = runCli(args);
+        EXPECT_EQ(result.exitCode, c.exitCode) << c.args[1] << ": " << result.err;
+        EXPECT_NE(result.err.find(c.errPart), std::string::npos) << c.args[1] << ": " << result.err;
+        EXPECT_EQ(testing_support::readFile(file), "precious") << c.args[1];
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.path()), {}), 1) << c.args[1];
+    }
 }
 
 // Peak memory (kB) of one run of the program with `args`, measured by a parent of its own.

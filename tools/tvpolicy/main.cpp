@@ -1,6 +1,7 @@
 #include <iostream>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -8,6 +9,7 @@
 
 #include "commands/Command.h"
 #include "io/Console.h"
+#include "policy/UnreadElements.h"
 
 namespace cli = tvpolicy::cli;
 
@@ -58,8 +60,14 @@ int main(int argc, char** argv)
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0 && !app.remaining().empty()) {
-            std::cerr << "tvpolicy: unknown command or argument '" << app.remaining().front()
-                      << "'\nRun with --help for more information.\n";
+            std::vector<std::string> names;
+            for (CLI::App* sub : app.get_subcommands({})) {
+                names.push_back(sub->get_name());
+            }
+            std::string closest = cli::closestName(app.remaining().front(), names);
+            std::cerr << "tvpolicy: unknown command or argument '" << app.remaining().front() << "'"
+                      << (closest.empty() ? std::string() : " (did you mean '" + closest + "'?)")
+                      << "\nRun with --help for more information.\n";
             return cli::exitUsage;
         }
         // Help and version exit 0; every usage error exits 2, like an unreadable policy.

@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <memory>
 #include <string>
 
@@ -34,6 +35,14 @@ CommandAction setupCompare(CLI::App& app)
         std::string op = options->op;
         if (DelimVersion::parseCmpOper(op) == DelimVersion::gte && op != "gte") {
             console.err() << "unknown operator \"" << op << "\": compared as gte\n";
+        }
+        if (options->delim.empty() && options->system.find('.') != std::string::npos &&
+            options->requested.find('.') != std::string::npos) {
+            console.err() << "tvpolicy compare: warning: without --delim each version is read as one number up to "
+                             "its first non-digit ("
+                          << std::strtoll(options->system.c_str(), nullptr, 10) << " against "
+                          << std::strtoll(options->requested.c_str(), nullptr, 10)
+                          << "), as a check without delim reads it; pass --delim . for dotted versions\n";
         }
         DelimVersion version(op);
         version.setNormalize(options->normalize);

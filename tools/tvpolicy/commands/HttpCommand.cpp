@@ -2,8 +2,8 @@
 // what a server answers the agent. Exit 0 for a complete 2xx answer, 1 for another complete
 // answer, 2 when no complete answer came (refused, TLS failure, time-out, size cap, usage).
 #include <algorithm>
-#include <fstream>
 #include <map>
+#include <memory>
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -11,6 +11,7 @@
 #include <tvpolicy/agent/BasicHttpRequest.h>
 
 #include "commands/Command.h"
+#include "report/ResultsFile.h"
 
 namespace tvpolicy::cli {
 
@@ -60,8 +61,14 @@ int runPost(const HttpOptions& options, Console& console)
             shown[key] = value;
         }
         console.out() << jsonText(shown) << '\n';
-    } else if (outcome.completed && !options.output.empty()) {
-        std::ofstream(options.output, std::ios::binary) << reply["contents"];
+    } else if (exitFor(outcome) == exitPassed && !options.output.empty()) {
+        std::string why;
+        if (!writeFileAtomically(options.output, reply["contents"], why)) {
+            console.err() << "tvpolicy http: " << why << '\n';
+            return exitUsage;
+        }
+    } else if (!options.output.empty()) {
+        console.err() << "tvpolicy http: " << options.output << " was left unchanged: the answer was not 2xx\n";
     } else if (outcome.completed) {
         console.out() << reply["contents"];
     }
@@ -90,8 +97,18 @@ int runHttp(const HttpOptions& options, Console& console)
     const std::map<std::string, HttpOperation> operations = {
         {"get", HttpOperation::get}, {"head", HttpOperation::head}, {"download", HttpOperation::download}};
     HttpOperation operation = operations.at(options.operation);
-    std::string path = operation == HttpOperation::download ? options.output : std::string();
-    HttpTransfer outcome = BasicHttpRequest::transfer(operation, options.url, std::string(), options.cookie, path);
+    // A download fills a file beside FILE, which replaces FILE only after a complete 2xx answer.
+    std::unique_ptr<FileBeside> staged;
+    if (operation == HttpOperation::download) {
+        staged = std::make_unique<FileBeside>(options.output);
+        if (staged->name().empty()) {
+            console.err() << "tvpolicy http: " << staged->why() << '\n';
+            return exitUsage;
+        }
+    }
+    HttpTransfer outcome = BasicHttpRequest::transfer(operation, options.url, std::string(), options.cookie,
+                                                      staged ? staged->name() : std::string());
+    bool success = exitFor(outcome) == exitPassed;
 
     if (options.json) {
         Json shown = {{"responseCode", outcome.responseCode}, {"verifyResult", outcome.verifyResult},
@@ -103,13 +120,31 @@ int runHttp(const HttpOptions& options, Console& console)
         console.out() << jsonText(shown) << '\n';
     } else if (operation == HttpOperation::head) {
         console.out() << outcome.responseCode << '\n';
-    } else if (operation == HttpOperation::get && outcome.completed && !options.output.empty()) {
-        std::ofstream(options.output, std::ios::binary) << outcome.contents;
+    } else if (operation == HttpOperation::get && success && !options.output.empty()) {
+        std::string why;
+        if (!writeFileAtomically(options.output, outcome.contents, why)) {
+            console.err() << "tvpolicy http: " << why << '\n';
+            return exitUsage;
+        }
     } else if (operation == HttpOperation::get && outcome.completed) {
         console.out() << outcome.contents;  // a cut-off body is not shown as if it were the answer
     }
     if (!outcome.error.empty()) {
         console.err() << "tvpolicy http: " << outcome.error << '\n';
+    }
+    if (!options.output.empty() && operation != HttpOperation::head) {
+        if (success && staged && !staged->commit()) {
+            console.err() << "tvpolicy http: " << staged->why() << '\n';
+            return exitUsage;
+        }
+        if (!success) {
+            console.err() << "tvpolicy http: " << options.output << " was left unchanged: "
+                          << (outcome.completed && outcome.responseCode != 0
+                                  ? "the server answered " + std::to_string(outcome.responseCode) + ", not 2xx"
+                                  : "no complete answer came" +
+                                        (outcome.error.empty() ? std::string() : " (" + outcome.error + ")"))
+                          << '\n';
+        }
     }
     return exitFor(outcome);
 }

@@ -2,6 +2,7 @@
 // any check. Exit 0 clean, 1 findings, 2 unreadable.
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -11,6 +12,7 @@
 #include "commands/Command.h"
 #include "policy/PolicyInput.h"
 #include "policy/PolicyLint.h"
+#include "policy/UnreadElements.h"
 
 namespace tvpolicy::cli {
 
@@ -36,16 +38,27 @@ Json listOf(const std::vector<Notice>& notices)
 int lint(const LintOptions& options, Console& console)
 {
     std::string bytes;
-    std::unique_ptr<Policy> policy =
-        readPolicy(options.source, defaultMaxDocumentMB << 20, "lint", console, bytes);
-    if (!policy) {
-        return exitUsage;
+    std::vector<Notice> findings;
+    std::vector<Notice> notes;
+    std::string name;
+    // A monitor document is linted as what it is; anything else must be a policy.
+    DocumentRead input = readDocument(options.source, defaultMaxDocumentMB << 20);
+    MonitorScan monitors = input.ok ? scanMonitors(input.text) : MonitorScan{};
+    if (monitors.root != "policy" && monitors.monitors > 0) {
+        findings = monitors.notices;
+        notes = monitors.notes;
+    } else {
+        std::unique_ptr<Policy> policy = parsePolicy(std::move(input), options.source, "lint", console, bytes);
+        if (!policy) {
+            return exitUsage;
+        }
+        findings = lintFindings(*policy, bytes);
+        notes = lintNotes(*policy);
+        name = policy->getName();
     }
-    std::vector<Notice> findings = lintFindings(*policy);
-    std::vector<Notice> notes = lintNotes(*policy);
     if (options.json) {
         Json report = {{"source", options.source},
-                       {"policy", policy->getName()},
+                       {"policy", name},
                        {"clean", findings.empty()},
                        {"findings", listOf(findings)},
                        {"notes", listOf(notes)}};

@@ -12,6 +12,7 @@
 
 #include "commands/Command.h"
 #include "policy/DocumentFile.h"
+#include "policy/UnreadElements.h"
 #include "io/StopSignals.h"
 
 namespace tvpolicy::cli {
@@ -66,6 +67,10 @@ int runScheduled(MonitorList& monitors, long count, Console& console)
         schedule.push_back(monitor.get());
     }
     long runs = 0;
+    bool allTrue = true;
+    // Bounded by --count, the run ends by the statuses, as --once does; stopped by a signal,
+    // it ends as asked.
+    auto ending = [&] { return count > 0 && !allTrue ? exitFailed : exitPassed; };
     while (!schedule.empty()) {
         std::timespec now{};
         ::clock_gettime(CLOCK_REALTIME, &now);
@@ -75,9 +80,9 @@ int runScheduled(MonitorList& monitors, long count, Console& console)
                 ++it;
                 continue;
             }
-            runAndPrint(*monitor, console);
+            allTrue = runAndPrint(*monitor, console) && allTrue;
             if ((count > 0 && ++runs >= count) || stop.stopRequested()) {
-                return exitPassed;
+                return ending();
             }
             it = monitor->getPeriod() > 0 ? it + 1 : schedule.erase(it);
         }
@@ -94,7 +99,7 @@ int runScheduled(MonitorList& monitors, long count, Console& console)
             break;
         }
     }
-    return exitPassed;
+    return ending();
 }
 
 CommandAction setupMonitor(CLI::App& app)
@@ -102,6 +107,7 @@ CommandAction setupMonitor(CLI::App& app)
     struct Options {
         std::string file;
         bool once = false;
+        bool strict = false;
         long count = 0;
     };
     auto options = std::make_shared<Options>();
@@ -119,12 +125,25 @@ CommandAction setupMonitor(CLI::App& app)
             }
         },
         "N");
-    app.add_option("--count", options->count, "Stop after N runs in all (N at least 1)")
+    app.add_flag("--strict", options->strict,
+                 "Refuse (exit 2) a document that holds elements or attributes the monitors would not evaluate");
+    app.add_option("--count", options->count, "Stop after N runs in all (N at least 1); exit 0 only when all reported true")
         ->check(atLeastOne)->excludes(once);
 
     return [options](Console& console) -> int {
         std::optional<std::string> text = loadXmlDocument(console, "monitor", options->file);
         if (!text) {
+            return exitUsage;
+        }
+        MonitorScan scan = scanMonitors(*text);
+        for (const Notice& notice : scan.notices) {
+            if (notice.kind != "no-monitors") {
+                console.err() << "tvpolicy monitor: warning: " << describe(notice) << '\n';
+            }
+        }
+        if (options->strict && !scan.notices.empty()) {
+            console.err() << "tvpolicy monitor: --strict: the document holds what would not be evaluated; no "
+                             "monitor was run\n";
             return exitUsage;
         }
         MonitorList monitors = takeMonitors(Monitor::parseMonitors(*text));

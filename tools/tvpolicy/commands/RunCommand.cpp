@@ -3,6 +3,8 @@
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
+#include <utility>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -55,7 +57,7 @@ struct RunOptions {
 };
 
 // Sections built from an address (`include`) are read before the run, here as an agent would.
-void readIncludes(Policy& policy, Console& console)
+void readIncludes(Policy& policy, Console& console, bool quiet)
 {
     std::unique_ptr<xercesc::SAX2XMLReader> reader;
     for (auto& [key, item] : policy.getSections()) {
@@ -66,7 +68,7 @@ void readIncludes(Policy& policy, Console& console)
         if (!reader) {
             reader.reset(xercesc::XMLReaderFactory::createXMLReader());
         }
-        if (!option) {
+        if (!option && !quiet) {
             console.err() << "reading included section '" << key << "' from " << item->getUrl() << '\n' << std::flush;
         }
         item->parse(reader.get());
@@ -151,8 +153,32 @@ int writeReports(const RunOptions& options, const Json& report, const std::strin
 
 int evaluate(const RunOptions& options, Console& console);
 
+// Two outputs named alike would overwrite each other: whichever came last would win.
+bool sameFile(const std::string& a, const std::string& b)
+{
+    if (a.empty() || b.empty()) {
+        return false;
+    }
+    auto resolved = [](const std::string& path) {
+        std::error_code error;
+        return std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error).lexically_normal();
+    };
+    return a == b || resolved(a) == resolved(b);
+}
+
 int runPolicy(const RunOptions& options, Console& console)
 {
+    const std::vector<std::pair<const char*, const std::string*>> outputs = {
+        {"--output", &options.output}, {"--report", &options.htmlReport}, {"--junit", &options.junitReport}};
+    for (std::size_t i = 0; i < outputs.size(); ++i) {
+        for (std::size_t j = i + 1; j < outputs.size(); ++j) {
+            if (sameFile(*outputs[i].second, *outputs[j].second)) {
+                console.err() << "tvpolicy run: " << outputs[i].first << " and " << outputs[j].first
+                              << " name the same file, " << *outputs[j].second << ": one would overwrite the other\n";
+                return exitUsage;
+            }
+        }
+    }
     if (options.hostDescription.empty()) {
         return evaluate(options, console);
     }
@@ -186,10 +212,10 @@ int evaluate(const RunOptions& options, Console& console)
         console.out() << std::flush;
         std::exit(exitUnfetched);
     });
-    readIncludes(*policy, console);
+    readIncludes(*policy, console, options.quiet);
     Section::setReadFailureHandler(nullptr);
 
-    std::vector<Notice> notices = documentNotices(*policy);
+    std::vector<Notice> notices = documentNotices(*policy, bytes);
     std::size_t documentWarnings = notices.size();
     for (const Notice& notice : hostNotices(*policy)) {
         notices.push_back(notice);

@@ -34,17 +34,26 @@ std::string sourceName(const std::string& source) { return source == "-" ? "stan
 std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxBytes, const std::string& command,
                                    Console& console, std::string& bytes)
 {
+    return parsePolicy(readDocument(source, maxBytes), source, command, console, bytes);
+}
+
+std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& source, const std::string& command,
+                                    Console& console, std::string& bytes)
+{
     const std::string prefix = "tvpolicy " + command + ": ";
-    DocumentRead input = readDocument(source, maxBytes);
     if (!input.ok && !input.directory) {
         console.err() << prefix << input.error << '\n';
         return nullptr;
     }
     std::unique_ptr<Policy> policy(Policy::parseFromString(input.text, true));
     if (policy->getFatalParseError()) {
-        console.err() << prefix << withoutCarriageReturns(policy->getFatalErrorMsg()) << '\n'
-                      << prefix << sourceName(source) << ": "
-                      << (input.directory ? "is a directory" : causeOf(*policy, input.text)) << '\n';
+        // The document is local: the real cause first, then the library's words without its
+        // advice about network settings, which concerns fetching, not a file.
+        std::string message = withoutCarriageReturns(policy->getFatalErrorMsg());
+        message = message.substr(0, message.find("\n\nPlease check your personal firewall"));
+        console.err() << prefix << sourceName(source) << ": "
+                      << (input.directory ? "is a directory" : causeOf(*policy, input.text)) << '\n'
+                      << prefix << message << '\n';
         return nullptr;
     }
     if (policy->getRootElement() != "policy") {

@@ -18,6 +18,10 @@ namespace tvpolicy::cli {
 std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxBytes, const std::string& command,
                                    Console& console, std::string& bytes);
 
+/// The same for a document already read from `source`.
+std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& source, const std::string& command,
+                                    Console& console, std::string& bytes);
+
 /// "standard input" for "-", else the path.
 std::string sourceName(const std::string& source);
 

@@ -109,6 +109,15 @@ struct Walk {
             } else if (element == "File") {
                 version(*source, "lastModified", "-", false);
                 version(*source, "version", ".", false);
+                for (const char* launch : {"execute", "args", "wait"}) {
+                    attribute(*source, launch, present);
+                    if (present) {
+                        out.push_back({"file-execute", true, source->location.line, name,
+                                       "<File> in section \"" + name + "\": " + launch +
+                                           " is read but nothing is started: the check only looks for the file"});
+                        break;
+                    }
+                }
             }
         }
         for (Task* term : termsOf(task)) {
@@ -147,6 +156,48 @@ void unreachable(const std::map<std::string, Section*>& scope, bool topLevel, st
     }
 }
 
+bool asksToSkip(Section& section, Task& task)
+{
+    const tvpolicy::TaskSource* source = section.getTaskSource(&task);
+    bool present = false;
+    if (source != nullptr && source->element == "and") {
+        attribute(*source, "skip", present);
+    }
+    std::vector<Task*> terms = termsOf(task);
+    return present ||
+           std::any_of(terms.begin(), terms.end(), [&](Task* term) { return asksToSkip(section, *term); });
+}
+
+// Top-level sections evaluated on their own count against the policy whenever they do not
+// pass: what looks like a softer outcome (prohibited, a warning, a skip) fails it all the same.
+void standAlone(const std::map<std::string, Section*>& scope, std::vector<Notice>& out)
+{
+    for (const auto& [key, section] : scope) {
+        if (section->getType() == "Option" || !section->getGroup().empty() || !section->getUrl().empty() ||
+            !(section->isPrimary() || section->isCustomScan())) {
+            continue;
+        }
+        std::string name = shownName(key, *section);
+        std::uint64_t line = section->getLocation().line;
+        if (section->isProhibited()) {
+            out.push_back({"stand-alone-prohibited", true, line, name,
+                           "section \"" + name + "\" is prohibited and stands alone: it fails the policy whatever "
+                           "its checks find (a prohibited section decides only within a group or an option)"});
+        }
+        if (section->isWarning()) {
+            out.push_back({"stand-alone-warning", true, line, name,
+                           "section \"" + name + "\" has severity=\"warning\" but stands alone: when it does not "
+                           "pass, it still fails the policy"});
+        }
+        const auto& tasks = section->getTasks();
+        if (std::any_of(tasks.begin(), tasks.end(), [&](Task* task) { return asksToSkip(*section, *task); })) {
+            out.push_back({"stand-alone-skip", true, line, name,
+                           "section \"" + name + "\" has an <and skip=\"true\"> but stands alone: a skipped "
+                           "stand-alone section fails the policy"});
+        }
+    }
+}
+
 bool isWebUrl(const std::string& url)
 {
     std::string head = url.substr(0, 8);
@@ -156,9 +207,9 @@ bool isWebUrl(const std::string& url)
 
 }  // namespace
 
-std::vector<Notice> lintFindings(Policy& policy)
+std::vector<Notice> lintFindings(Policy& policy, const std::string& text)
 {
-    std::vector<Notice> findings = documentNotices(policy);
+    std::vector<Notice> findings = documentNotices(policy, text);
     forEachSection(policy, [&](const std::string& key, Section& section) {
         std::string name = shownName(key, section);
         if (!section.getUrl().empty() && !isWebUrl(section.getUrl())) {
@@ -172,6 +223,7 @@ std::vector<Notice> lintFindings(Policy& policy)
         }
     });
     unreachable(policy.getSections(), true, findings);
+    standAlone(policy.getSections(), findings);
     for (auto& [key, item] : policy.getSections()) {
         if (item->getType() != "Option") {
             continue;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "policy/PolicyNotices.h"
@@ -13,7 +14,7 @@ namespace tvpolicy::cli {
 /// texts and operators a comparison would read otherwise than they look, sections that can
 /// never run, ONLY options with groups, more than 999 sections, includes that are not http(s).
 /// Each is a Notice about the document.
-std::vector<Notice> lintFindings(Policy& policy);
+std::vector<Notice> lintFindings(Policy& policy, const std::string& text);
 
 /// What the policy will do that an administrator should see, without being a fault: the shell
 /// commands of VersionFromScript checks.

@@ -9,6 +9,7 @@
 #include <tvpolicy/policy/TaskSource.h>
 
 #include "policy/PolicyWalk.h"
+#include "policy/UnreadElements.h"
 
 namespace tvpolicy::cli {
 
@@ -41,9 +42,9 @@ bool holdsProcessCheck(Section& section, Task& task)
 
 }  // namespace
 
-std::vector<Notice> documentNotices(Policy& policy)
+std::vector<Notice> documentNotices(Policy& policy, const std::string& text)
 {
-    std::vector<Notice> notices;
+    std::vector<Notice> notices = unreadElements(text);
     unsigned sections = 0;
     forEachSection(policy, [&](const std::string& key, Section& section) {
         ++sections;
@@ -64,6 +65,10 @@ std::vector<Notice> documentNotices(Policy& policy)
         }
         std::stable_sort(own.begin(), own.end(), [](const Notice& a, const Notice& b) { return a.line < b.line; });
         notices.insert(notices.end(), own.begin(), own.end());
+    });
+    // Document order; what has no line (the whole policy) last.
+    std::stable_sort(notices.begin(), notices.end(), [](const Notice& a, const Notice& b) {
+        return a.line != 0 && (b.line == 0 || a.line < b.line);
     });
     if (sections == 0) {
         notices.push_back({"no-sections", true, 0, "", "the policy holds no section: nothing was checked"});

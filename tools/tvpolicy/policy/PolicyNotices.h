@@ -19,10 +19,11 @@ struct Notice {
     std::string message;
 };
 
-/// What the policy holds that the run will not evaluate: elements naming no check kind,
-/// attributes a check does not read, included sections (read, never evaluated), and a policy
-/// without any section. In document order within each section, sections in key order.
-std::vector<Notice> documentNotices(Policy& policy);
+/// What the policy holds that the run will not evaluate: elements under <policy> or an
+/// <option> that the reader does not use, elements naming no check kind, attributes a check
+/// does not read, included sections (read, never evaluated), and a policy without any
+/// section. `text` is the document the policy was read from. In document order.
+std::vector<Notice> documentNotices(Policy& policy, const std::string& text);
 
 /// A notice when the policy checks processes and this computer withholds some of its process
 /// table (the executables of other users' processes, to an unprivileged user).

@@ -43,7 +43,7 @@ h2{font-size:1.05rem;margin:0;display:flex;flex-wrap:wrap;gap:.4rem;align-items:
 .pass{border-color:var(--pass)} .pass>.head .status,.verdict.pass .word{color:var(--pass)}
 .fail{border-color:var(--fail)} .fail>.head .status,.verdict.fail .word{color:var(--fail)}
 .warn{border-color:var(--warn)} .warn>.head .status{color:var(--warn)}
-.skip{border-color:var(--skip)} .skip>.head .status{color:var(--skip)}
+.decided{color:var(--fail)} .skip{border-color:var(--skip)} .skip>.head .status{color:var(--skip)}
 table{border-collapse:collapse;width:100%;margin:.4rem 0}
 th,td{text-align:left;vertical-align:top;padding:.25rem .4rem;border-top:1px solid var(--line)}
 th{font-weight:600;font-size:.85rem;color:#57606a}
@@ -101,10 +101,17 @@ void itemHtml(const Json& item, std::ostream& html)
 {
     bool option = item["kind"] == "option";
     unsigned status = item["status"].get<unsigned>();
-    html << "<section class=\"item " << toneOf(status) << "\"><h2 class=\"head\"><span>"
+    bool checkedNothing = item.contains("notEvaluatedBecause");
+    // A section that checked nothing is shown as skipped, never as passed.
+    unsigned shown = checkedNothing ? 0 : status;
+    html << "<section class=\"item " << toneOf(shown) << "\"><h2 class=\"head\"><span>"
          << (option ? "Option" : "Section") << " &ldquo;" << escapeHtml(item["name"].get<std::string>())
-         << "&rdquo;</span><span class=\"status\">" << markOf(status) << ' '
+         << "&rdquo;</span><span class=\"status\">" << markOf(shown) << ' '
          << escapeHtml(item["statusText"].get<std::string>()) << "</span></h2>";
+    if (checkedNothing) {
+        html << "<p class=\"meta\">not evaluated: " << escapeHtml(item["notEvaluatedBecause"].get<std::string>())
+             << "</p>";
+    }
     if (!option && !item["group"].get<std::string>().empty()) {
         html << "<p class=\"meta\">group " << escapeHtml(item["group"].get<std::string>())
              << (item["primary"].get<bool>() ? ", primary" : ", secondary") << "</p>";
@@ -122,6 +129,9 @@ void itemHtml(const Json& item, std::ostream& html)
         for (const Json& task : item["tasks"]) {
             std::string outcome = task["passed"].is_null() ? "not run" : task["passed"].get<bool>() ? "passed" : "failed";
             std::string message = task["message"].get<std::string>();
+            if (task.contains("cause")) {
+                message += " (" + task["cause"].get<std::string>() + ")";
+            }
             std::string versions = comparedVersions(task);
             if (!versions.empty()) {
                 message += (message.empty() ? "" : "; ") + versions;
@@ -212,7 +222,19 @@ std::string htmlReport(const Json& report)
     }
     html << "<ul class=\"counts\"><li>" << counts["sections"] << " sections</li><li>" << counts["passed"]
          << " passed</li><li>" << counts["failed"] << " failed</li><li>" << counts["warning"] << " warning</li><li>"
-         << counts["skipped"] << " skipped</li></ul></header>\n";
+         << counts["skipped"] << " skipped</li>";
+    if (counts.value("notEvaluated", 0u) > 0) {
+        html << "<li>" << counts["notEvaluated"] << " checked nothing</li>";
+    }
+    html << "</ul>";
+    if (!report.value("decidedBy", Json::array()).empty()) {
+        html << "<div class=\"decided fail\" id=\"decided-by\"><h2>Why it failed</h2><ul>";
+        for (const Json& decider : report["decidedBy"]) {
+            html << "<li>" << escapeHtml(decider["rule"].get<std::string>()) << "</li>";
+        }
+        html << "</ul></div>";
+    }
+    html << "</header>\n";
     if (!report["warnings"].empty()) {
         html << "<section class=\"warnings\"><h2>&#9888; Not evaluated or partial</h2><ul>";
         for (const Json& warning : report["warnings"]) {

@@ -58,11 +58,45 @@ struct Totals {
     unsigned tests = 0, failures = 0, skipped = 0;
 };
 
-void addCases(DOMDocument* document, DOMElement* suite, const Json& item, const std::string& className, Totals& totals)
+// How the cases of one item count: whether its failures decided the verdict, and whether the
+// verdict was enforced (an audit-only run exits 0 whatever it finds).
+struct Weight {
+    bool decides = false;
+    bool enforced = true;
+    std::string rule;  // the deciding rule in words, for the failure message
+};
+
+void skip(DOMDocument* document, DOMElement* testCase, const std::string& message, Totals& totals)
+{
+    ++totals.skipped;
+    setAttribute(child(document, testCase, "skipped"), "message", message);
+}
+
+void fail(DOMDocument* document, DOMElement* testCase, const std::string& message, const std::string& type,
+          const std::string& details, Totals& totals)
+{
+    ++totals.failures;
+    DOMElement* failure = child(document, testCase, "failure");
+    setAttribute(failure, "message", message);
+    setAttribute(failure, "type", type);
+    failure->appendChild(document->createTextNode(Wide(details).get()));
+}
+
+void addCases(DOMDocument* document, DOMElement* suite, const Json& item, const std::string& className,
+              const Weight& weight, Totals& totals)
 {
     if (item["kind"] == "option") {
+        unsigned before = totals.failures;
         for (const Json& section : item["sections"]) {
-            addCases(document, suite, section, className + "." + item["name"].get<std::string>(), totals);
+            addCases(document, suite, section, className + "." + item["name"].get<std::string>(), weight, totals);
+        }
+        if (weight.decides && weight.enforced && totals.failures == before) {
+            // No section of the option failed on its own, yet the option did: the option is the case.
+            ++totals.tests;
+            DOMElement* testCase = child(document, suite, "testcase");
+            setAttribute(testCase, "name", item["name"].get<std::string>());
+            setAttribute(testCase, "classname", className);
+            fail(document, testCase, weight.rule, item["statusText"].get<std::string>(), weight.rule + "\n", totals);
         }
         return;
     }
@@ -71,17 +105,24 @@ void addCases(DOMDocument* document, DOMElement* suite, const Json& item, const 
     setAttribute(testCase, "name", item["name"].get<std::string>());
     setAttribute(testCase, "classname", className);
     unsigned status = item["status"].get<unsigned>();
-    if (status == 0 || status == 4) {
-        ++totals.skipped;
-        DOMElement* skipped = child(document, testCase, "skipped");
-        setAttribute(skipped, "message", item.contains("url") ? "included sections are never evaluated"
-                                                              : item["statusText"].get<std::string>());
+    bool failing = status == 2 || status == 3 || status == 5;
+    bool own = item.contains("decides");
+    if (!(weight.decides && weight.enforced && (own || failing))) {
+        if (item.contains("notEvaluatedBecause")) {
+            skip(document, testCase, "not evaluated: " + item["notEvaluatedBecause"].get<std::string>(), totals);
+        } else if (item.contains("url")) {
+            skip(document, testCase, "included sections are never evaluated", totals);
+        } else if (failing || own) {
+            skip(document, testCase,
+                 item["statusText"].get<std::string>() +
+                     (weight.decides ? "; the verdict is not enforced (audit only)"
+                                     : "; it did not decide the verdict, its option passed without it"),
+                 totals);
+        } else if (status == 0 || status == 4) {
+            skip(document, testCase, item["statusText"].get<std::string>(), totals);
+        }
         return;
     }
-    if (status == 1) {
-        return;
-    }
-    ++totals.failures;
     std::string details;
     std::string first;
     for (const Json& task : item["tasks"]) {
@@ -96,16 +137,31 @@ void addCases(DOMDocument* document, DOMElement* suite, const Json& item, const 
         first = first.empty() ? line : first;
         details += line + "\n";
     }
+    details = weight.rule + "\n" + details;
+    // The failing check says most about a plain failure; a section that counts as failed
+    // whatever its checks found (prohibited, or skipped while standing alone) is told by its rule.
+    first = first.empty() || (own && (!failing || item.value("prohibit", false))) ? weight.rule : first;
     if (!item["help"].get<std::string>().empty()) {
         details += "help: " + item["help"].get<std::string>() + "\n";
     }
     if (!item["instructionsUrl"].get<std::string>().empty()) {
         details += "instructions: " + item["instructionsUrl"].get<std::string>() + "\n";
     }
-    DOMElement* failure = child(document, testCase, "failure");
-    setAttribute(failure, "message", first.empty() ? item["statusText"].get<std::string>() : first);
-    setAttribute(failure, "type", status == 5 ? "warning" : item["statusText"].get<std::string>());
-    failure->appendChild(document->createTextNode(Wide(details).get()));
+    fail(document, testCase, first.empty() ? item["statusText"].get<std::string>() : first,
+         status == 5 ? "warning" : item["statusText"].get<std::string>(), details, totals);
+}
+
+Weight weightOf(const Json& report, const Json& item)
+{
+    Weight weight;
+    weight.enforced = report.value("exitStatus", 1) == 1 || report["passed"].get<bool>();
+    for (const Json& decider : report.value("decidedBy", Json::array())) {
+        if (decider["key"] == item["key"]) {
+            weight.decides = true;
+            weight.rule = decider["rule"].get<std::string>();
+        }
+    }
+    return weight;
 }
 
 }  // namespace
@@ -123,8 +179,18 @@ std::string junitReport(const Json& report, std::string& why)
         std::string policy = report["policy"].get<std::string>();
         DOMElement* suite = child(document.get(), root, "testsuite");
         Totals totals;
+        std::string className = policy.empty() ? "policy" : policy;
         for (const Json& item : report["items"]) {
-            addCases(document.get(), suite, item, policy.empty() ? "policy" : policy, totals);
+            addCases(document.get(), suite, item, className, weightOf(report, item), totals);
+        }
+        if (totals.failures == 0 && report.value("exitStatus", 0) == 1) {
+            // The run failed by something no section shows: the verdict is the case, so that a
+            // CI system never reads a failed run as clean.
+            ++totals.tests;
+            DOMElement* testCase = child(document.get(), suite, "testcase");
+            setAttribute(testCase, "name", "verdict");
+            setAttribute(testCase, "classname", className);
+            fail(document.get(), testCase, "the policy failed", "FAIL", "the policy failed\n", totals);
         }
         double seconds = report.contains("run") ? report["run"]["durationMs"].get<double>() / 1000.0 : 0.0;
         for (DOMElement* element : {root, suite}) {

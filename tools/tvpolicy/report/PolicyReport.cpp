@@ -1,5 +1,7 @@
 #include "report/PolicyReport.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <map>
 
@@ -72,6 +74,15 @@ void describeTask(Section& section, Task& task, Json& entry)
                                 {"operation", version->lastOperation()}};
         }
     }
+    // A file that is not there has no date: the check then reports the date it started from.
+    const std::string tooOld = "/Too Old: 0-0-0";
+    std::string message = entry.value("message", std::string());
+    if (entry.value("element", std::string()) == "File" && message.size() >= tooOld.size() &&
+        message.compare(message.size() - tooOld.size(), tooOld.size(), tooOld) == 0) {
+        const Json& attributes = entry["attributes"];
+        entry["cause"] = "no file named '" + attributes.value("fileName", std::string()) + "' found under " +
+                         attributes.value("startPath", std::string());
+    }
     std::vector<Task*> terms = termsOf(task);
     if (!terms.empty()) {
         entry["terms"] = Json::array();
@@ -111,6 +122,26 @@ Json tasksOf(Section& section)
     return tasks;
 }
 
+// Why a section that the library counts as passed checked nothing; empty when it checked
+// something. Its status stays the library's; the reports show it as not evaluated.
+std::string nothingChecked(Section& section)
+{
+    if (section.getStatus() != 1) {
+        return "";
+    }
+    const std::list<Task*>& tasks = section.getTasks();
+    if (tasks.empty()) {
+        return section.getIgnoredElements().empty() ? "it holds no check"
+                                                    : "every element in it names no check kind and was passed over";
+    }
+    bool allUnread = std::all_of(tasks.begin(), tasks.end(), [&](Task* task) {
+        const tvpolicy::TaskSource* source = section.getTaskSource(task);
+        return source != nullptr && !source->attributes.empty() &&
+               source->unknownAttributes.size() == source->attributes.size();
+    });
+    return allUnread ? "no attribute of its checks is one that they read, so they were given nothing to check" : "";
+}
+
 Json itemOf(const std::string& key, Section& section, Json& counts)
 {
     bool option = section.getType() == "Option";
@@ -142,11 +173,88 @@ Json itemOf(const std::string& key, Section& section, Json& counts)
         item["tasks"] = tasksOf(section);
         counts["sections"] = counts["sections"].get<unsigned>() + 1;
         const char* bucket = tally(section.getStatus());
+        std::string nothing = nothingChecked(section);
+        if (!nothing.empty()) {
+            item["statusText"] = "not evaluated";
+            item["evaluated"] = false;
+            item["notEvaluatedBecause"] = nothing;
+            bucket = "notEvaluated";
+        }
         counts[bucket] = counts[bucket].get<unsigned>() + 1;
     }
     item["help"] = section.getHelp();
     item["instructionsUrl"] = section.getInstructionsUrl();
     return item;
+}
+
+// The first failing check of a section as "label: message", for the reasons below.
+std::string firstFailure(const Json& item)
+{
+    for (const Json& task : item.value("tasks", Json::array())) {
+        if (task["passed"].is_boolean() && !task["passed"].get<bool>()) {
+            std::string message = task["message"].get<std::string>();
+            return checkLabel(task) + (message.empty() ? "" : ": " + message);
+        }
+    }
+    return "";
+}
+
+// Why a top-level item failed the policy, by the rules of the evaluation: a stand-alone section
+// counts against the policy whenever it did not pass (so a prohibited one always does, and so
+// does one that a check asked to skip); a grouped section or an option when it failed and was
+// not skipped.
+std::string decidingRule(Section& section, const Json& item)
+{
+    std::string name = "'" + item["name"].get<std::string>() + "'";
+    if (section.getType() == "Option") {
+        std::string failing;
+        for (const Json& child : item["sections"]) {
+            unsigned status = child["status"].get<unsigned>();
+            if (status == 2 || status == 3 || status == 5) {
+                failing += (failing.empty() ? "" : ", ") + ("'" + child["name"].get<std::string>() + "'");
+            }
+        }
+        return "option " + name + " failed: none of its ways to pass held" +
+               (failing.empty() ? std::string() : " (failed: " + failing + ")");
+    }
+    bool standAlone = section.getGroup().empty();
+    std::string check = firstFailure(item);
+    std::string found = check.empty() ? "" : " (" + check + ")";
+    if (standAlone && section.isProhibited()) {
+        return "section " + name + " is prohibited and stands alone, so it counts as failed whatever its checks find";
+    }
+    switch (section.getStatus()) {
+    case 0:
+        return "section " + name + " stands alone and a check asked to skip it (skip=\"true\"): a skipped stand-alone " +
+               "section counts as failed";
+    case 3:
+        return "section " + name + " is prohibited and its checks passed, so it counts as failed";
+    case 5:
+        return "section " + name + " has severity warning, but it did not pass, and that fails the policy" + found;
+    default:
+        return "section " + name + " failed" + (check.empty() ? std::string() : ": " + check);
+    }
+}
+
+// The top-level items that made the policy fail, each with the rule in words.
+Json decidingItems(Policy& policy, const Json& items)
+{
+    Json deciding = Json::array();
+    std::size_t index = 0;
+    for (auto& [key, section] : policy.getSections()) {
+        const Json& item = items[index++];
+        bool option = section->getType() == "Option";
+        bool standAlone = !option && section->getGroup().empty();
+        bool counts = !section->passed() && (standAlone || !section->isSkipped());
+        if (counts) {
+            deciding.push_back({{"key", key},
+                                {"name", item["name"]},
+                                {"kind", item["kind"]},
+                                {"status", section->getStatus()},
+                                {"rule", decidingRule(*section, item)}});
+        }
+    }
+    return deciding;
 }
 
 Json switchesOf(Policy& policy)
@@ -198,6 +306,11 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
     Tone tone = status == 1 ? Tone::pass : status == 5 ? Tone::warn : status == 2 || status == 3 ? Tone::fail : Tone::warn;
     bool skipped = status == 0 || status == 4;
     std::string words = item["statusText"].get<std::string>();
+    if (item.contains("notEvaluatedBecause")) {
+        tone = Tone::warn;
+        words = toned(words, tone, style.colour) + " (" + item["notEvaluatedBecause"].get<std::string>() + ")";
+        skipped = true;
+    }
     out << indent << (option ? "Option" : "Section") << " \"" << item["name"].get<std::string>()
         << "\": " << (skipped ? words : toned(words, tone, style.colour));
     if (!option && !item["group"].get<std::string>().empty()) {
@@ -224,6 +337,9 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
         std::string version = comparedVersions(task);
         if (!message.empty()) {
             out << " - " << message;
+        }
+        if (task.contains("cause")) {
+            out << " (" << task["cause"].get<std::string>() << ")";
         }
         if (!version.empty()) {
             out << " - " << version;
@@ -291,6 +407,27 @@ std::string checkLabel(const Json& task)
     return text;
 }
 
+namespace {
+
+// A version as the comparison reads it: each word between delimiter characters as its leading
+// number, the whole text as one number when there is no delimiter.
+std::string asCompared(const std::string& text, const std::string& delimiters)
+{
+    std::string shown;
+    std::size_t start = 0;
+    do {
+        std::size_t end = delimiters.empty() ? std::string::npos : text.find_first_of(delimiters, start);
+        std::string word = text.substr(start, end == std::string::npos ? std::string::npos : end - start);
+        if (!word.empty() || delimiters.empty()) {
+            shown += (shown.empty() ? "" : ".") + std::to_string(std::strtoll(word.c_str(), nullptr, 10));
+        }
+        start = end == std::string::npos ? text.size() : end + 1;
+    } while (start < text.size());
+    return shown;
+}
+
+}  // namespace
+
 std::string comparedVersions(const Json& task)
 {
     if (!task.contains("version")) {
@@ -298,13 +435,29 @@ std::string comparedVersions(const Json& task)
     }
     const Json& version = task["version"];
     std::string operation = version["operation"].get<std::string>();
-    return "found \"" + version["found"].get<std::string>() + "\", required " + (operation.empty() ? "gte" : operation) +
-           " \"" + version["required"].get<std::string>() + "\"";
+    std::string found = version["found"].get<std::string>();
+    std::string required = version["required"].get<std::string>();
+    std::string text = "found \"" + found + "\", required " + (operation.empty() ? "gte" : operation) + " \"" +
+                       required + "\"";
+    const Json attributes = task.value("attributes", Json::object());
+    if (!attributes.contains("required")) {
+        return text;  // the kinds that read no delimiter compare by rules of their own
+    }
+    std::string delimiters = attributes.value("delim", std::string());
+    std::string readFound = asCompared(found, delimiters);
+    std::string readRequired = asCompared(required, delimiters);
+    if (readFound != found || readRequired != required) {
+        text += " (compared as " + readFound + " against " + readRequired +
+                (delimiters.empty() ? ": without delim each version is read as one number up to its first non-digit)"
+                                    : ": each word is read as its leading number)");
+    }
+    return text;
 }
 
 Json reportPolicy(Policy& policy, bool passed, unsigned announced, const std::vector<Notice>& notices)
 {
-    Json counts = {{"sections", 0u}, {"passed", 0u}, {"failed", 0u}, {"warning", 0u}, {"skipped", 0u}};
+    Json counts = {{"sections", 0u}, {"passed", 0u},  {"failed", 0u},
+                   {"warning", 0u},  {"skipped", 0u}, {"notEvaluated", 0u}};
     Json items = Json::array();
     for (auto& [key, item] : policy.getSections()) {
         items.push_back(itemOf(key, *item, counts));
@@ -314,9 +467,18 @@ Json reportPolicy(Policy& policy, bool passed, unsigned announced, const std::ve
         warnings.push_back({{"kind", notice.kind}, {"line", notice.line}, {"section", notice.section},
                             {"message", notice.message}});
     }
+    Json decidedBy = passed ? Json::array() : decidingItems(policy, items);
+    for (const Json& decider : decidedBy) {
+        for (Json& item : items) {
+            if (item["key"] == decider["key"]) {
+                item["decides"] = true;
+            }
+        }
+    }
     return {{"policy", policy.getName()},
             {"result", passed ? "PASS" : "FAIL"},
             {"passed", passed},
+            {"decidedBy", decidedBy},
             {"counts", counts},
             {"progress", {{"announced", announced}, {"max", policy.getProgressMax()}}},
             {"switches", switchesOf(policy)},
@@ -333,6 +495,10 @@ std::string verdictLine(const Json& report, const TextStyle& style)
                        counts["passed"].dump() + " passed, " + counts["failed"].dump() + " failed, " +
                        counts["warning"].dump() + " warning, " + counts["skipped"].dump() + " skipped of " +
                        counts["sections"].dump() + " sections";
+    if (counts.value("notEvaluated", 0u) > 0) {
+        line += "; " + counts["notEvaluated"].dump() + " section" + (counts["notEvaluated"] == 1u ? "" : "s") +
+                " checked nothing";
+    }
     std::map<std::string, unsigned> unevaluated;
     for (const Json& warning : report["warnings"]) {
         ++unevaluated[warning["kind"].get<std::string>()];
@@ -350,6 +516,9 @@ std::string verdictLine(const Json& report, const TextStyle& style)
     line += ")";
     if (report["switches"]["auditOnly"].get<bool>()) {
         line += " [audit only]";
+    }
+    for (const Json& decider : report.value("decidedBy", Json::array())) {
+        line += "\n  because " + decider["rule"].get<std::string>();
     }
     return line;
 }

@@ -15,41 +15,68 @@ namespace tvpolicy::cli {
 
 bool writeFileAtomically(const std::string& path, const std::string& content, std::string& why)
 {
-    std::string pattern = path + ".XXXXXX";
-    std::vector<char> name(pattern.begin(), pattern.end());
-    name.push_back('\0');
-    UniqueFd file(::mkostemp(name.data(), O_CLOEXEC));
-    if (!file) {
-        why = "cannot create a file beside '" + path + "': " + std::strerror(errno);
+    FileBeside staged(path);
+    if (staged.name().empty()) {
+        why = staged.why();
         return false;
     }
-    auto fail = [&](const char* step) {
-        why = std::string(step) + " '" + path + "': " + std::strerror(errno);
-        ::unlink(name.data());
-        return false;
-    };
-    for (std::size_t done = 0; done < content.size();) {
+    UniqueFd file(::open(staged.name().c_str(), O_WRONLY | O_CLOEXEC));
+    for (std::size_t done = 0; file && done < content.size();) {
         ssize_t written = ::write(file.get(), content.data() + done, content.size() - done);
         if (written < 0 && errno == EINTR) {
             continue;
         }
         if (written <= 0) {
-            return fail("cannot write");
+            why = "cannot write '" + path + "': " + std::strerror(errno);
+            return false;
         }
         done += static_cast<std::size_t>(written);
     }
-    // The new file takes the permissions a file created plainly would have.
+    if (!file || ::close(file.release()) != 0) {
+        why = "cannot write '" + path + "': " + std::strerror(errno);
+        return false;
+    }
+    if (!staged.commit()) {
+        why = staged.why();
+        return false;
+    }
+    return true;
+}
+
+FileBeside::FileBeside(const std::string& path) : path_(path)
+{
+    std::string pattern = path + ".XXXXXX";
+    std::vector<char> name(pattern.begin(), pattern.end());
+    name.push_back('\0');
+    UniqueFd file(::mkostemp(name.data(), O_CLOEXEC));
+    if (!file) {
+        why_ = "cannot create a file beside '" + path + "': " + std::strerror(errno);
+        return;
+    }
+    name_ = name.data();
+}
+
+FileBeside::~FileBeside()
+{
+    if (!name_.empty()) {
+        ::unlink(name_.c_str());
+    }
+}
+
+bool FileBeside::commit()
+{
+    UniqueFd file(::open(name_.c_str(), O_RDONLY | O_CLOEXEC));
     mode_t mask = ::umask(0);
     ::umask(mask);
-    if (::fchmod(file.get(), 0666 & ~mask) != 0 || ::fsync(file.get()) != 0) {
-        return fail("cannot write");
+    if (!file || ::fchmod(file.get(), 0666 & ~mask) != 0 || ::fsync(file.get()) != 0) {
+        why_ = "cannot write '" + path_ + "': " + std::strerror(errno);
+        return false;
     }
-    if (::close(file.release()) != 0) {
-        return fail("cannot write");
+    if (std::rename(name_.c_str(), path_.c_str()) != 0) {
+        why_ = "cannot replace '" + path_ + "': " + std::strerror(errno);
+        return false;
     }
-    if (std::rename(name.data(), path.c_str()) != 0) {
-        return fail("cannot replace");
-    }
+    name_.clear();
     return true;
 }
 
