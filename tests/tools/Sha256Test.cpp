@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "Sha256.h"
+#include "report/Sha256.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ class Sha256Test : public testing::TestWithParam<DigestCase> {};
 
 TEST_P(Sha256Test, MatchesTheExample)
 {
-    EXPECT_EQ(cli::sha256Hex(GetParam().message), GetParam().digest);
+    EXPECT_EQ(tvpolicy::cli::sha256Hex(GetParam().message), GetParam().digest);
 }
 
 INSTANTIATE_TEST_SUITE_P(Published, Sha256Test, testing::Values(

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "TerminalText.h"
+#include "io/TerminalText.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ class DisplayWidthTest : public testing::TestWithParam<WidthCase> {};
 
 TEST_P(DisplayWidthTest, CountsColumns)
 {
-    EXPECT_EQ(cli::displayWidth(GetParam().text), GetParam().columns) << GetParam().what;
+    EXPECT_EQ(tvpolicy::cli::displayWidth(GetParam().text), GetParam().columns) << GetParam().what;
 }
 
 INSTANTIATE_TEST_SUITE_P(Text, DisplayWidthTest, testing::Values(
@@ -49,7 +49,7 @@ class FitWidthTest : public testing::TestWithParam<FitCase> {};
 
 TEST_P(FitWidthTest, NeverSplitsACharacter)
 {
-    EXPECT_EQ(cli::fitWidth(GetParam().text, GetParam().columns), GetParam().fitted);
+    EXPECT_EQ(tvpolicy::cli::fitWidth(GetParam().text, GetParam().columns), GetParam().fitted);
 }
 
 INSTANTIATE_TEST_SUITE_P(Text, FitWidthTest, testing::Values(
