@@ -17,14 +17,13 @@
 #include <sys/socket.h>
 
 #include "host/parse/NetlinkMessages.h"
-#include "host/probe/OwnedFd.h"
+#include "base/OwnedFd.h"
 #include "host/probe/linux/SdBus.h"
 
 namespace tvpolicy {
 
 namespace {
 
-using probe::OwnedFd;
 using Clock = std::chrono::steady_clock;
 
 // Room for a burst of address messages (an interface coming up with many addresses) before
