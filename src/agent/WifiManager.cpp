@@ -34,10 +34,10 @@ std::string utf8(const std::wstring& text)
         if (c < 0 || c > 0x10FFFF || U_IS_SURROGATE(c)) {
             c = 0xFFFD;
         }
-        char bytes[U8_MAX_LENGTH];
+        std::uint8_t bytes[U8_MAX_LENGTH];
         std::int32_t length = 0;
         U8_APPEND_UNSAFE(bytes, length, c);
-        out.append(bytes, static_cast<std::size_t>(length));
+        out.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
     }
     return out;
 }

@@ -176,7 +176,7 @@ private:
 
     OwnedFd socket_;
     OwnedFd wake_;
-    std::vector<unsigned char> buffer_ = std::vector<unsigned char>(64 * 1024);
+    std::vector<unsigned char> buffer_ = std::vector<unsigned char>(std::size_t{64} * 1024);
 };
 
 struct SlotUnref {
