@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Policies, LintFlawTest, testing::Values(
     LintCase{"StandAloneSkip", inSection("<and skip=\"true\"><true/></and>"), "stand-alone-skip", 2,
              "a skipped stand-alone section fails the policy"},
     LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"}),
-    [](const testing::TestParamInfo<LintCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<LintCase>& testCase) { return testCase.param.title; });
 
 // An include is reported, and one that is not http(s) twice: it would end the run.
 TEST(LintCommand, IncludesAreReportedNotFetched)

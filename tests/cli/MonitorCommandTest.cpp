@@ -154,7 +154,7 @@ INSTANTIATE_TEST_SUITE_P(Documents, MonitorUnreadTest, testing::Values(
                "attribute 'procname' of <ProcessExists> in monitor 'shell' is not one that ProcessExists reads"},
     UnreadCase{"MonitorAttribute", "<monitors>\n<Monitor id='a' perod='5'><true/></Monitor>\n</monitors>",
                "attribute 'perod' of <Monitor> 'a' is not one that a monitor reads"}),
-    [](const testing::TestParamInfo<UnreadCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<UnreadCase>& testCase) { return testCase.param.title; });
 
 TEST(MonitorCommand, CountExitsByTheStatuses)
 {

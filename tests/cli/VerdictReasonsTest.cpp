@@ -138,6 +138,6 @@ INSTANTIATE_TEST_SUITE_P(Policies, VerdictTest, testing::Values(
                 policyOf("<auditOnly/><section name=\"No telnet server package\" primary=\"true\" prohibit=\"true\">"
                          "<false/></section>"), 0,
                 {"[audit only]", prohibitedRule}, {}, false, 1}),
-    [](const testing::TestParamInfo<VerdictCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<VerdictCase>& testCase) { return testCase.param.title; });
 
 }  // namespace
