@@ -21,7 +21,7 @@ git ls-files -z --cached --others --exclude-standard |
 
 ccache=
 command -v ccache >/dev/null && ccache=1
-( cd "$src" && TVPOLICY_CCACHE=$ccache DEB_BUILD_OPTIONS="parallel=$(nproc) nocheck" \
+( cd "$src" && TVPOLICY_CCACHE=$ccache DEB_BUILD_OPTIONS="parallel=$(nproc) nocheck noddebs" \
     dpkg-buildpackage -us -uc -b -nc >"$deb_dir/build.log" 2>&1 ) || {
   tail -n 40 "$deb_dir/build.log" >&2
   echo "package: dpkg-buildpackage failed; the whole log is $deb_dir/build.log" >&2
