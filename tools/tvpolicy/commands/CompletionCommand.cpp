@@ -242,8 +242,8 @@ CommandAction setupCompletion(CLI::App& app)
     };
 }
 
-const bool registered = registerCommand(
-    {"completion", "Print the bash or zsh completion script", 1000, &setupCompletion});
+const bool registered =
+    registerCommand({"completion", "Print the bash or zsh completion script", 1000, &setupCompletion});
 
 }  // namespace
 }  // namespace tvpolicy::cli
