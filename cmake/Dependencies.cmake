@@ -21,6 +21,7 @@ endif()
 find_package(Boost 1.74 REQUIRED)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json 3 CONFIG REQUIRED)
+find_package(tomlplusplus 3 CONFIG REQUIRED)
 # The operating system's own libraries, used by the host probe's backend only.
 if(APPLE)
   set(TVPOLICY_PLATFORM_LIBS "-framework CoreFoundation" "-framework IOKit" "-framework SystemConfiguration"

@@ -7,7 +7,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config git
   libxerces-c-dev libicu-dev libcurl4-gnutls-dev libboost-dev libsystemd-dev
-  libcli11-dev nlohmann-json3-dev
+  libcli11-dev nlohmann-json3-dev libtomlplusplus-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
   clang libc++-dev libc++abi-dev libclang-rt-dev llvm
   dnsmasq-base bind9-dnsutils curl iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo
