@@ -6,8 +6,10 @@
 
 #include <tvpolicy/version.h>
 
-#include "Command.h"
-#include "Console.h"
+#include "commands/Command.h"
+#include "io/Console.h"
+
+namespace cli = tvpolicy::cli;
 
 int main(int argc, char** argv)
 {

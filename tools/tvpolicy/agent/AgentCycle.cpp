@@ -1,4 +1,4 @@
-#include "AgentCycle.h"
+#include "agent/AgentCycle.h"
 
 #include <chrono>
 #include <cstdio>
@@ -14,11 +14,11 @@
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 
-#include "../PolicyInput.h"
-#include "../PolicyNotices.h"
-#include "../PolicyReport.h"
+#include "policy/PolicyInput.h"
+#include "policy/PolicyNotices.h"
+#include "report/PolicyReport.h"
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 namespace {
 
@@ -246,4 +246,4 @@ void AgentCycle::deliverPending()
     }
 }
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

@@ -5,11 +5,11 @@
 
 #include <tvpolicy/agent/BasicHttpRequest.h>
 
-#include "../Console.h"
-#include "AgentSettings.h"
-#include "AgentState.h"
+#include "io/Console.h"
+#include "agent/AgentSettings.h"
+#include "agent/AgentState.h"
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 /// How a cycle ended.
 enum class Outcome {
@@ -52,4 +52,4 @@ private:
     std::string cookie_;
 };
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

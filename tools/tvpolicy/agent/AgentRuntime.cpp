@@ -1,4 +1,4 @@
-#include "AgentRuntime.h"
+#include "agent/AgentRuntime.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -10,7 +10,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 namespace {
 
@@ -175,4 +175,4 @@ std::chrono::milliseconds watchdogPeriod()
     return std::chrono::milliseconds(std::atoll(usec) / 2000);
 }
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

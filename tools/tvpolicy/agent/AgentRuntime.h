@@ -6,9 +6,9 @@
 #include <string>
 #include <thread>
 
-#include "../UniqueFd.h"
+#include "io/UniqueFd.h"
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 /// Why a wait of the agent ended.
 enum class Wake { timeout, stop, reload, event };
@@ -53,4 +53,4 @@ void notifyServiceManager(const std::string& state);
 /// Half the watchdog period the service manager asks for ($WATCHDOG_USEC), or zero for none.
 std::chrono::milliseconds watchdogPeriod();
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

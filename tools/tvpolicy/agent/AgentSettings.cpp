@@ -1,4 +1,4 @@
-#include "AgentSettings.h"
+#include "agent/AgentSettings.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -7,7 +7,7 @@
 
 #include <toml++/toml.h>
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 std::string ScriptRule::refusal(const std::string& command) const
 {
@@ -161,4 +161,4 @@ bool loadSettings(const std::string& path, bool mustExist, AgentSettings& settin
     return true;
 }
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

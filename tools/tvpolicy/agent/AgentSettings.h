@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 /// Which commands named by a fetched policy may run: none (the default), an exact list, or any.
 struct ScriptRule {
@@ -39,4 +39,4 @@ std::optional<std::chrono::milliseconds> parseDuration(const std::string& text);
 /// `mustExist`. A file holding login values that others may read is refused.
 bool loadSettings(const std::string& path, bool mustExist, AgentSettings& settings, std::string& error);
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

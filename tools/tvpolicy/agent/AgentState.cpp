@@ -1,4 +1,4 @@
-#include "AgentState.h"
+#include "agent/AgentState.h"
 
 #include <algorithm>
 #include <chrono>
@@ -8,9 +8,9 @@
 #include <sstream>
 #include <system_error>
 
-#include "../ResultsFile.h"
+#include "report/ResultsFile.h"
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 namespace fs = std::filesystem;
 using Json = nlohmann::ordered_json;
@@ -101,4 +101,4 @@ std::optional<Json> AgentState::lastVerdict() const
     return verdict;
 }
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

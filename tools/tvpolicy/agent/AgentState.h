@@ -7,7 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 /// Results not yet taken by the server, waiting in the state directory.
 struct PendingResults {
@@ -46,4 +46,4 @@ private:
     unsigned sequence_ = 0;
 };
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

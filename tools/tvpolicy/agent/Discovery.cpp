@@ -1,4 +1,4 @@
-#include "Discovery.h"
+#include "agent/Discovery.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -12,9 +12,9 @@
 #include <tvpolicy/agent/TXTRecord.h>
 #include <tvpolicy/host/HostProbe.h>
 
-#include "../UniqueFd.h"
+#include "io/UniqueFd.h"
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 namespace {
 
@@ -105,4 +105,4 @@ std::string discoverServer(const std::string& service, const std::string& givenD
     return scheme + "://" + target + ":" + std::to_string(port) + path;
 }
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace cli::agent {
+namespace tvpolicy::cli::agent {
 
 /// The server's base address (ending in '/') from the SRV records of `_SERVICE._tcp.DOMAIN`
 /// (the search domain when `domain` is empty), in the library's order: the first target that
@@ -11,4 +11,4 @@ namespace cli::agent {
 /// none is found.
 std::string discoverServer(const std::string& service, const std::string& domain, bool allowHttp, std::string& why);
 
-}  // namespace cli::agent
+}  // namespace tvpolicy::cli::agent

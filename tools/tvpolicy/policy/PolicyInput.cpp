@@ -1,0 +1,99 @@
+#include "policy/PolicyInput.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include <xercesc/sax2/SAX2XMLReader.hpp>
+#include <xercesc/sax2/XMLReaderFactory.hpp>
+
+#include <tvpolicy/policy/Section.h>
+
+namespace tvpolicy::cli {
+
+namespace {
+
+std::string withoutCarriageReturns(std::string text)
+{
+    text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+    return text;
+}
+
+// The cause of a failed parse in a person's words.
+std::string causeOf(const Policy& policy, const std::string& text)
+{
+    if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
+        return text.empty() ? "is empty" : "holds only white space";
+    }
+    std::string reason = policy.getFatalErrorReason().empty() ? "no element" : policy.getFatalErrorReason();
+    const tvpolicy::SourceLocation& where = policy.getFatalErrorLocation();
+    std::string cause = "not XML: " + reason;
+    if (where.line > 0) {
+        cause += " at line " + std::to_string(where.line) + ", column " + std::to_string(where.column);
+    }
+    return cause;
+}
+
+}  // namespace
+
+std::string sourceName(const std::string& source) { return source == "-" ? "standard input" : source; }
+
+std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxBytes, const std::string& command,
+                                   Console& console, std::string& bytes)
+{
+    const std::string prefix = "tvpolicy " + command + ": ";
+    DocumentRead input = readDocument(source, maxBytes);
+    if (!input.ok && !input.directory) {
+        console.err() << prefix << input.error << '\n';
+        return nullptr;
+    }
+    std::string error;
+    std::unique_ptr<Policy> policy = input.directory ? nullptr : parsePolicy(input.text, sourceName(source), error);
+    if (input.directory) {
+        std::unique_ptr<Policy> empty(Policy::parseFromString(input.text, true));
+        error = withoutCarriageReturns(empty->getFatalErrorMsg()) + '\n' + sourceName(source) + ": is a directory";
+    }
+    if (!policy) {
+        std::istringstream lines(error);
+        for (std::string line; std::getline(lines, line);) {
+            console.err() << prefix << line << '\n';
+        }
+        return nullptr;
+    }
+    bytes = std::move(input.text);
+    return policy;
+}
+
+std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error)
+{
+    std::unique_ptr<Policy> policy(Policy::parseFromString(text, true));
+    if (policy->getFatalParseError()) {
+        error = withoutCarriageReturns(policy->getFatalErrorMsg()) + '\n' + name + ": " + causeOf(*policy, text);
+        return nullptr;
+    }
+    if (policy->getRootElement() != "policy") {
+        error = name + " is not a policy: its root element is <" + policy->getRootElement() +
+                ">, a policy's is <policy>";
+        return nullptr;
+    }
+    return policy;
+}
+
+void readIncludes(Policy& policy, Console& console)
+{
+    std::unique_ptr<xercesc::SAX2XMLReader> reader;
+    for (auto& [key, item] : policy.getSections()) {
+        bool option = item->getType() == "Option";
+        if (!option && item->getUrl().empty()) {
+            continue;
+        }
+        if (!reader) {
+            reader.reset(xercesc::XMLReaderFactory::createXMLReader());
+        }
+        if (!option) {
+            console.err() << "reading included section '" << key << "' from " << item->getUrl() << '\n' << std::flush;
+        }
+        item->parse(reader.get());
+    }
+}
+
+}  // namespace tvpolicy::cli

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <tvpolicy/policy/Policy.h>
+
+#include "io/Console.h"
+#include "policy/DocumentFile.h"
+
+namespace tvpolicy::cli {
+
+/// A policy read from a file or standard input ("-") the way `run` reads it: larger than
+/// `maxBytes` is refused before parsing; a document that does not parse gives the library's
+/// message and then the cause ("is empty", "is a directory", "not XML: ... at line L, column C");
+/// a document whose root is not <policy> is refused. Messages go to standard error behind
+/// "tvpolicy COMMAND: "; the result is null then. `bytes` keeps the text that was read.
+std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxBytes, const std::string& command,
+                                   Console& console, std::string& bytes);
+
+/// The same reading of a policy already in memory, named `name` in the messages: null with
+/// `error` set (one or two lines, no prefix) when it is not a policy.
+std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error);
+
+/// Reads the sections that the policy builds from an address (`include`) and its options
+/// before the run, telling `console` about each include.
+void readIncludes(Policy& policy, Console& console);
+
+/// "standard input" for "-", else the path.
+std::string sourceName(const std::string& source);
+
+}  // namespace tvpolicy::cli
