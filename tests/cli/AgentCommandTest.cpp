@@ -29,13 +29,11 @@ namespace {
 
 const std::string examples = std::string(TVPOLICY_SOURCE_DIR) + "/examples/";
 
-std::vector<std::string> onceAgainst(const std::string& url, const TempDir& state, std::vector<std::string> more = {})
+std::vector<std::string> onceAgainst(const std::string& url, const TempDir& state,
+                                     const std::string& config = "/dev/null")
 {
-    std::vector<std::string> args = {"agent", "--once", "--allow-http", "--server", url, "--state-dir",
-                                     (state.path() / "state").string(), "--config",
-                                     "/dev/null"};
-    args.insert(args.end(), more.begin(), more.end());
-    return args;
+    return {"agent", "--once", "--allow-http", "--server", url, "--state-dir", (state.path() / "state").string(),
+            "--config", config};
 }
 
 std::filesystem::path privateFile(const TempDir& dir, const std::string& name, const std::string& text)
@@ -119,7 +117,7 @@ TEST(AgentLogin, SendsTheFieldsInOrderAndKeepsTheCookie)
     ASSERT_TRUE(server.started());
     TempDir dir;
     auto config = privateFile(dir, "agent.toml", "[login]\npassword = \"s3cret&more\"\nusername = \"alice\"\n");
-    auto result = runCli(onceAgainst(server.url(), dir, {"--config", config.string()}));
+    auto result = runCli(onceAgainst(server.url(), dir, config.string()));
     EXPECT_EQ(result.exitCode, 0) << result.err;
     std::vector<Json> requests = server.requests();
     ASSERT_GE(requests.size(), 3u);
@@ -141,7 +139,7 @@ TEST(AgentLogin, RefusedLoginEndsWithFour)
     ASSERT_TRUE(server.started());
     TempDir dir;
     auto config = privateFile(dir, "agent.toml", "[login]\nusername = \"mallory\"\n");
-    auto result = runCli(onceAgainst(server.url(), dir, {"--config", config.string()}));
+    auto result = runCli(onceAgainst(server.url(), dir, config.string()));
     EXPECT_EQ(result.exitCode, 4) << result.err;
     EXPECT_THAT(result.err, HasSubstr("The user name or password is wrong."));
     EXPECT_THAT(server.requestLines(), ElementsAre("GET /agent/config", "POST /agent/login"));
@@ -215,7 +213,7 @@ TEST_P(AgentScripts, OnlyListedCommandsRun)
 {
     TempDir dir;
     auto marker = dir.path() / "ran";
-    std::string command = "touch " + marker.string() + " && echo 7";
+    std::string command = "touch " + marker.string() + "; echo 7";
     auto policy = dir.write("policy.xml", "<policy name='p'><section name='Script' primary='true'>"
                                           "<VersionFromScript script='" + command + "' required='5'/>"
                                           "</section></policy>");
@@ -223,7 +221,7 @@ TEST_P(AgentScripts, OnlyListedCommandsRun)
     ASSERT_TRUE(server.started());
     std::string setting = GetParam().scripts == "list" ? "[\"" + command + "\"]" : GetParam().scripts;
     auto config = privateFile(dir, "agent.toml", "scripts = " + setting + "\n");
-    auto result = runCli(onceAgainst(server.url(), dir, {"--config", config.string()}));
+    auto result = runCli(onceAgainst(server.url(), dir, config.string()));
     EXPECT_EQ(result.exitCode, GetParam().runs ? 0 : 1) << result.err;
     EXPECT_EQ(std::filesystem::exists(marker), GetParam().runs);
     ASSERT_EQ(server.storedResults().size(), 1u);
@@ -325,7 +323,7 @@ TEST(AgentNotifiers, AnAddressChangeStartsACycle)
     if (!ns.valid()) {
         GTEST_SKIP() << ns.skipReason();
     }
-    ASSERT_TRUE(ns.exec("ip link set lo up"));
+    ASSERT_TRUE(ns.exec("ip link set lo up && ip link add va type veth peer name vb && ip link set va up"));
     ReferenceServer server({"--policy", examples + "compliant.xml"}, {"ip", "netns", "exec", ns.name()});
     ASSERT_TRUE(server.started());
     TempDir state;
@@ -334,8 +332,7 @@ TEST(AgentNotifiers, AnAddressChangeStartsACycle)
                         "/dev/null"});
     ASSERT_TRUE(server.waitForRequests("/agent/report/success", 1, std::chrono::seconds(20)));
     std::this_thread::sleep_for(std::chrono::milliseconds(2500));  // past the first cycle's burst window
-    ASSERT_TRUE(ns.exec("ip link add dummy0 type dummy && ip link set dummy0 up && "
-                        "ip addr add 10.77.0.1/24 dev dummy0"));
+    ASSERT_TRUE(ns.exec("ip addr add 10.77.0.1/32 dev va"));
     EXPECT_TRUE(server.waitForRequests("/agent/config", 2, std::chrono::seconds(3)));
     agent.signalAndWait(SIGTERM, std::chrono::seconds(2));
 }

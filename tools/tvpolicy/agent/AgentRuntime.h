@@ -20,7 +20,7 @@ enum class Wake { timeout, stop, reload, event };
 /// earlier handlers come back on destruction.
 class AgentSignals {
 public:
-    static constexpr std::chrono::milliseconds stopGrace{900};
+    static constexpr std::chrono::milliseconds stopGrace{700};
 
     AgentSignals();
     ~AgentSignals();
