@@ -1,15 +1,19 @@
 #include <tvpolicy/agent/WifiManager.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <exception>
 #include <iostream>
 #include <optional>
 #include <vector>
 
+#include <unicode/utf8.h>
 #include <unistd.h>
 
 #include <tvpolicy/host/NetworkProbe.h>
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
+
+#include "host/CurrentWifi.h"
 
 namespace {
 
@@ -20,30 +24,20 @@ const char* const name8021X = "Gatewarden Configured 802.1x Profile";
 
 std::ostream& log() { return tvi::tslog(std::clog); }
 
-// Wide text holds one code point per character; it travels as UTF-8.
+// Wide text holds one code point per character; it travels as UTF-8. A value that is no code
+// point (a surrogate, or past U+10FFFF) becomes U+FFFD.
 std::string utf8(const std::wstring& text)
 {
     std::string out;
     for (wchar_t wide : text) {
-        auto c = static_cast<unsigned long>(wide);
-        if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+        auto c = static_cast<UChar32>(wide);
+        if (c < 0 || c > 0x10FFFF || U_IS_SURROGATE(c)) {
             c = 0xFFFD;
         }
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | (c >> 6));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | (c >> 12));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (c >> 18));
-            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
+        std::uint8_t bytes[U8_MAX_LENGTH];
+        std::int32_t length = 0;
+        U8_APPEND_UNSAFE(bytes, length, c);
+        out.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
     }
     return out;
 }
@@ -53,21 +47,17 @@ std::string utf8(const std::wstring& text)
 std::wstring wide(const std::string& text)
 {
     std::wstring out;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        auto byte = static_cast<unsigned char>(text[i]);
-        std::size_t length = byte < 0x80 ? 1 : (byte >> 5) == 0x6 ? 2 : (byte >> 4) == 0xE ? 3 : (byte >> 3) == 0x1E ? 4 : 0;
-        unsigned long c = length == 1 ? byte : length == 2 ? (byte & 0x1F) : length == 3 ? (byte & 0x0F) : (byte & 0x07);
-        bool valid = length != 0 && i + length <= text.size();
-        for (std::size_t k = 1; valid && k < length; ++k) {
-            auto next = static_cast<unsigned char>(text[i + k]);
-            valid = (next & 0xC0) == 0x80;
-            c = (c << 6) | (next & 0x3F);
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    const auto length = static_cast<std::int32_t>(text.size());
+    for (std::int32_t i = 0; i < length;) {
+        const std::int32_t start = i;
+        UChar32 c = 0;
+        U8_NEXT(bytes, i, length, c);
+        if (c < 0) {
+            c = 0xFFFD;
+            i = start + 1;
         }
-        const unsigned long least[] = {0, 0, 0x80, 0x800, 0x10000};
-        valid = valid && c >= least[length] && c <= 0x10FFFF && !(c >= 0xD800 && c <= 0xDFFF);
-        out += valid ? static_cast<wchar_t>(c) : L'\xFFFD';
-        i += valid ? length : 1;
+        out += static_cast<wchar_t>(c);
     }
     return out;
 }
@@ -103,22 +93,13 @@ bool offers(const NetworkProbe::WifiNetwork& network, int mode)
     return std::find(network.securityModes.begin(), network.securityModes.end(), mode) != network.securityModes.end();
 }
 
-std::optional<NetworkProbe::WifiStatus> wifiInterface(const char* operation)
-{
-    std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentNetwork().wifiStatus();
-    if (!status) {
-        log() << operation << ": no Wi-Fi interface" << std::endl;
-    }
-    return status;
-}
-
 // Scans for `ssid` and associates with the first network found, a bounded number of times,
 // until the interface is on it. True when it is, or ends, on the network.
 bool join(const std::string& ssid, const std::string& password, const JoinTexts& texts, const char* operation)
 {
     NetworkProbe& network = tvpolicy::currentNetwork();
     try {
-        std::optional<NetworkProbe::WifiStatus> status = wifiInterface(operation);
+        std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentWifiStatus(operation);
         if (!status) {
             return false;
         }
@@ -189,13 +170,13 @@ std::wstring WifiManager::getCurrentProfileName() const { return wide(getCurrent
 
 std::string WifiManager::getCurrentProfileNameUtf8() const
 {
-    std::optional<NetworkProbe::WifiStatus> status = wifiInterface("getCurrentProfileName");
+    std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentWifiStatus("getCurrentProfileName");
     return status ? status->ssid : std::string();
 }
 
 std::string WifiManager::getCurrentBSSID() const
 {
-    std::optional<NetworkProbe::WifiStatus> status = wifiInterface("getCurrentBSSID");
+    std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentWifiStatus("getCurrentBSSID");
     return status ? status->bssid : std::string();
 }
 
@@ -241,7 +222,7 @@ bool WifiManager::createModifyProfile(WifiConfigurationProfile& profile) const
     // settings; an equal stored profile only ends the storing part.
     NetworkProbe& network = tvpolicy::currentNetwork();
     try {
-        if (!wifiInterface("CreateModifyProfile")) {
+        if (!tvpolicy::currentWifiStatus("CreateModifyProfile")) {
             return false;
         }
         std::vector<NetworkProbe::WifiSettings> stored = network.wifiStoredProfiles();
