@@ -26,6 +26,7 @@ find_library(TVPOLICY_NETTLE_STATIC NAMES libnettle.a)
 find_package(ICU REQUIRED COMPONENTS uc)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json 3 CONFIG REQUIRED)
+find_package(tomlplusplus 3 CONFIG REQUIRED)
 # The operating system's own libraries, used by the host probe's backend only.
 if(APPLE)
   set(TVPOLICY_PLATFORM_LIBS "-framework CoreFoundation" "-framework IOKit" "-framework SystemConfiguration"

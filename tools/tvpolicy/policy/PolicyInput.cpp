@@ -1,6 +1,12 @@
 #include "policy/PolicyInput.h"
 
 #include <algorithm>
+#include <sstream>
+
+#include <xercesc/sax2/SAX2XMLReader.hpp>
+#include <xercesc/sax2/XMLReaderFactory.hpp>
+
+#include <tvpolicy/policy/Section.h>
 
 namespace tvpolicy::cli {
 
@@ -40,20 +46,54 @@ std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxByt
         console.err() << prefix << input.error << '\n';
         return nullptr;
     }
-    std::unique_ptr<Policy> policy(Policy::parseFromString(input.text, true));
-    if (policy->getFatalParseError()) {
-        console.err() << prefix << withoutCarriageReturns(policy->getFatalErrorMsg()) << '\n'
-                      << prefix << sourceName(source) << ": "
-                      << (input.directory ? "is a directory" : causeOf(*policy, input.text)) << '\n';
-        return nullptr;
+    std::string error;
+    std::unique_ptr<Policy> policy = input.directory ? nullptr : parsePolicy(input.text, sourceName(source), error);
+    if (input.directory) {
+        std::unique_ptr<Policy> empty(Policy::parseFromString(input.text, true));
+        error = withoutCarriageReturns(empty->getFatalErrorMsg()) + '\n' + sourceName(source) + ": is a directory";
     }
-    if (policy->getRootElement() != "policy") {
-        console.err() << prefix << sourceName(source) << " is not a policy: its root element is <"
-                      << policy->getRootElement() << ">, a policy's is <policy>\n";
+    if (!policy) {
+        std::istringstream lines(error);
+        for (std::string line; std::getline(lines, line);) {
+            console.err() << prefix << line << '\n';
+        }
         return nullptr;
     }
     bytes = std::move(input.text);
     return policy;
+}
+
+std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error)
+{
+    std::unique_ptr<Policy> policy(Policy::parseFromString(text, true));
+    if (policy->getFatalParseError()) {
+        error = withoutCarriageReturns(policy->getFatalErrorMsg()) + '\n' + name + ": " + causeOf(*policy, text);
+        return nullptr;
+    }
+    if (policy->getRootElement() != "policy") {
+        error = name + " is not a policy: its root element is <" + policy->getRootElement() +
+                ">, a policy's is <policy>";
+        return nullptr;
+    }
+    return policy;
+}
+
+void readIncludes(Policy& policy, Console& console)
+{
+    std::unique_ptr<xercesc::SAX2XMLReader> reader;
+    for (auto& [key, item] : policy.getSections()) {
+        bool option = item->getType() == "Option";
+        if (!option && item->getUrl().empty()) {
+            continue;
+        }
+        if (!reader) {
+            reader.reset(xercesc::XMLReaderFactory::createXMLReader());
+        }
+        if (!option) {
+            console.err() << "reading included section '" << key << "' from " << item->getUrl() << '\n' << std::flush;
+        }
+        item->parse(reader.get());
+    }
 }
 
 }  // namespace tvpolicy::cli

@@ -18,6 +18,14 @@ namespace tvpolicy::cli {
 std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxBytes, const std::string& command,
                                    Console& console, std::string& bytes);
 
+/// The same reading of a policy already in memory, named `name` in the messages: null with
+/// `error` set (one or two lines, no prefix) when it is not a policy.
+std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error);
+
+/// Reads the sections that the policy builds from an address (`include`) and its options
+/// before the run, telling `console` about each include.
+void readIncludes(Policy& policy, Console& console);
+
 /// "standard input" for "-", else the path.
 std::string sourceName(const std::string& source);
 

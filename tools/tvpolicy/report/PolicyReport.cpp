@@ -1,15 +1,18 @@
 #include "report/PolicyReport.h"
 
+#include <ctime>
 #include <iterator>
 #include <map>
 
 #include <tvpolicy/checks/VersionEvidence.h>
+#include <tvpolicy/host/Machine.h>
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 #include <tvpolicy/policy/Task.h>
 #include <tvpolicy/policy/TaskResponse.h>
 #include <tvpolicy/policy/TaskSource.h>
+#include <tvpolicy/version.h>
 
 #include "policy/PolicyWalk.h"
 #include "io/TerminalText.h"
@@ -361,6 +364,30 @@ void printReport(const Json& report, std::ostream& out, const TextStyle& style)
     }
     printSwitches(report["switches"], out);
     out << '\n' << verdictLine(report, style) << '\n';
+}
+
+std::string isoTime(std::chrono::system_clock::time_point when)
+{
+    std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
+    return text;
+}
+
+nlohmann::ordered_json runRecord(std::chrono::system_clock::time_point started,
+                                 std::chrono::steady_clock::time_point clock)
+{
+    return {{"tool", "tvpolicy"},
+            {"toolVersion", TVPOLICY_VERSION},
+            {"libraryVersion", tvpolicy::libraryVersion()},
+            {"startTime", isoTime(started)},
+            {"durationMs",
+             std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - clock).count()},
+            {"hostName", Machine::getHostName()},
+            {"os", Machine::getOSString()},
+            {"osVersion", Machine::getOSVersion()}};
 }
 
 }  // namespace tvpolicy::cli

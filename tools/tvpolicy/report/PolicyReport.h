@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -23,6 +24,14 @@ nlohmann::ordered_json reportPolicy(Policy& policy, bool passed, unsigned announ
 struct TextStyle {
     bool colour = false;
 };
+
+/// The "run" object of the results: this program and library, when the run started and how
+/// long it took (until now from `clock`), and the computer it ran on.
+nlohmann::ordered_json runRecord(std::chrono::system_clock::time_point started,
+                                 std::chrono::steady_clock::time_point clock);
+
+/// `when` as an ISO 8601 UTC time to the second ("2024-05-01T12:00:00Z").
+std::string isoTime(std::chrono::system_clock::time_point when);
 
 /// The same report for a person: one block per item, the switches, then PASS or FAIL with the
 /// counts and what was not evaluated.
