@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/host/Utilities.h>
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Policy.h>
@@ -92,6 +93,25 @@ struct Walk {
         }
     }
 
+    // A posture check: its required attributes, and values it could not use.
+    void posture(const tvpolicy::TaskSource& source)
+    {
+        std::string kind = source.element + "Task";
+        for (const std::string& name : tvpolicy::requiredPostureAttributes(kind)) {
+            bool present = false;
+            attribute(source, name, present);
+            if (!present) {
+                add(source, "the attribute " + name + " is missing");
+            }
+        }
+        for (const auto& [name, value] : source.attributes) {
+            std::string problem = tvpolicy::postureAttributeProblem(kind, name, value);
+            if (!problem.empty()) {
+                add(source, problem);
+            }
+        }
+    }
+
     void check(Task& task)
     {
         if (const tvpolicy::TaskSource* source = section.getTaskSource(&task)) {
@@ -109,6 +129,8 @@ struct Walk {
             } else if (element == "File") {
                 version(*source, "lastModified", "-", false);
                 version(*source, "version", ".", false);
+            } else {
+                posture(*source);
             }
         }
         for (Task* term : termsOf(task)) {

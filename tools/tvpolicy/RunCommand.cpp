@@ -14,6 +14,7 @@
 
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/Machine.h>
+#include <tvpolicy/host/PostureProbe.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 #include <tvpolicy/version.h>
@@ -161,6 +162,7 @@ int runPolicy(const RunOptions& options, cli::Console& console)
         return cli::exitUsage;
     }
     tvpolicy::ScopedHost scope(described->host());
+    tvpolicy::ScopedPosture posture(described->posture());
     return evaluate(options, console);
 }
 
