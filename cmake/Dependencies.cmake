@@ -19,6 +19,11 @@ if(NOT TVPOLICY_CURL_LIBRARY)
   set(TVPOLICY_CURL_LIBRARY "${_curl_library}" CACHE STRING "The name libcurl is loaded under")
 endif()
 find_package(Boost 1.74 REQUIRED)
+# The program's digest of a policy file (nettle comes with GnuTLS, which libcurl already uses)
+# and its terminal text widths (ICU comes with Xerces-C).
+pkg_check_modules(NETTLE REQUIRED IMPORTED_TARGET nettle)
+find_library(TVPOLICY_NETTLE_STATIC NAMES libnettle.a)
+find_package(ICU REQUIRED COMPONENTS uc)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json 3 CONFIG REQUIRED)
 # The operating system's own libraries, used by the host probe's backend only.

@@ -6,5 +6,5 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
 build_dir=${BUILD_DIR:-build}
-cmake -S . -B "$build_dir" -G Ninja "$@" >/dev/null
+cmake -S . -B "$build_dir" -G Ninja -DTVPOLICY_WERROR=ON "$@" >/dev/null
 cmake --build "$build_dir" --target ${BUILD_TARGETS:-tvpolicy tvpolicy_cli}

@@ -11,8 +11,8 @@ namespace com::torvane {
 using namespace xercesc;
 using tvpolicy::xml::sameName;
 
-LoginField::LoginField(std::string name, std::string label, Type type)
-    : name(std::move(name)), label(std::move(label)), type(type)
+LoginField::LoginField(std::string fieldName, std::string fieldLabel, Type fieldType)
+    : name(std::move(fieldName)), label(std::move(fieldLabel)), type(fieldType)
 {
 }
 

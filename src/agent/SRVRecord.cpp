@@ -9,8 +9,9 @@
 
 namespace com::torvane {
 
-SRVRecord::SRVRecord(std::int32_t priority, std::int32_t weight, std::string name, std::uint32_t port)
-    : priority(priority), weight(weight), name(std::move(name)), port(port)
+SRVRecord::SRVRecord(std::int32_t recordPriority, std::int32_t recordWeight, std::string target,
+                     std::uint32_t targetPort)
+    : priority(recordPriority), weight(recordWeight), name(std::move(target)), port(targetPort)
 {
 }
 

@@ -1,11 +1,13 @@
 #include <tvpolicy/agent/WifiManager.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <exception>
 #include <iostream>
 #include <optional>
 #include <vector>
 
+#include <unicode/utf8.h>
 #include <unistd.h>
 
 #include <tvpolicy/host/NetworkProbe.h>
@@ -20,30 +22,20 @@ const char* const name8021X = "Gatewarden Configured 802.1x Profile";
 
 std::ostream& log() { return tvi::tslog(std::clog); }
 
-// Wide text holds one code point per character; it travels as UTF-8.
+// Wide text holds one code point per character; it travels as UTF-8. A value that is no code
+// point (a surrogate, or past U+10FFFF) becomes U+FFFD.
 std::string utf8(const std::wstring& text)
 {
     std::string out;
     for (wchar_t wide : text) {
-        auto c = static_cast<unsigned long>(wide);
-        if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+        auto c = static_cast<UChar32>(wide);
+        if (c < 0 || c > 0x10FFFF || U_IS_SURROGATE(c)) {
             c = 0xFFFD;
         }
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | (c >> 6));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | (c >> 12));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (c >> 18));
-            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
+        char bytes[U8_MAX_LENGTH];
+        std::int32_t length = 0;
+        U8_APPEND_UNSAFE(bytes, length, c);
+        out.append(bytes, static_cast<std::size_t>(length));
     }
     return out;
 }
@@ -53,21 +45,17 @@ std::string utf8(const std::wstring& text)
 std::wstring wide(const std::string& text)
 {
     std::wstring out;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        auto byte = static_cast<unsigned char>(text[i]);
-        std::size_t length = byte < 0x80 ? 1 : (byte >> 5) == 0x6 ? 2 : (byte >> 4) == 0xE ? 3 : (byte >> 3) == 0x1E ? 4 : 0;
-        unsigned long c = length == 1 ? byte : length == 2 ? (byte & 0x1F) : length == 3 ? (byte & 0x0F) : (byte & 0x07);
-        bool valid = length != 0 && i + length <= text.size();
-        for (std::size_t k = 1; valid && k < length; ++k) {
-            auto next = static_cast<unsigned char>(text[i + k]);
-            valid = (next & 0xC0) == 0x80;
-            c = (c << 6) | (next & 0x3F);
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    const auto length = static_cast<std::int32_t>(text.size());
+    for (std::int32_t i = 0; i < length;) {
+        const std::int32_t start = i;
+        UChar32 c = 0;
+        U8_NEXT(bytes, i, length, c);
+        if (c < 0) {
+            c = 0xFFFD;
+            i = start + 1;
         }
-        const unsigned long least[] = {0, 0, 0x80, 0x800, 0x10000};
-        valid = valid && c >= least[length] && c <= 0x10FFFF && !(c >= 0xD800 && c <= 0xDFFF);
-        out += valid ? static_cast<wchar_t>(c) : L'\xFFFD';
-        i += valid ? length : 1;
+        out += static_cast<wchar_t>(c);
     }
     return out;
 }

@@ -26,8 +26,7 @@ public:
     public:
         virtual bool found(const std::string& path) = 0;
 
-    protected:
-        ~Visitor() = default;
+        virtual ~Visitor() = default;
     };
 
     /// Walks `root` for entries named exactly `name`; returns true when the visitor ended the

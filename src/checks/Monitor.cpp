@@ -90,7 +90,7 @@ void parseSubTasks(DOMNode* node, Task* parent)
     }
 }
 
-Monitor::Monitor(std::string xml) : xml(std::move(xml))
+Monitor::Monitor(std::string text) : xml(std::move(text))
 {
     parse();
     nextRunTime = utcNow();

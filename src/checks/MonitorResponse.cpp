@@ -4,6 +4,6 @@
 
 namespace com::torvane::policy {
 
-MonitorResponse::MonitorResponse(std::string xml) : xml(std::move(xml)) {}
+MonitorResponse::MonitorResponse(std::string text) : xml(std::move(text)) {}
 
 }  // namespace com::torvane::policy

@@ -1,5 +1,6 @@
 #include <tvpolicy/host/FakeHost.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -12,29 +13,14 @@ namespace {
 // and a trailing "/" are kept; repeated ones collapse.
 std::string confined(const std::string& rest)
 {
-    std::vector<std::string> parts;
-    std::size_t start = 0;
-    while (start <= rest.size()) {
-        std::size_t end = rest.find('/', start);
-        if (end == std::string::npos) {
-            end = rest.size();
-        }
-        std::string part = rest.substr(start, end - start);
-        if (part == "..") {
-            if (!parts.empty()) {
-                parts.pop_back();
-            }
-        } else if (!part.empty() && part != ".") {
-            parts.push_back(std::move(part));
-        }
-        start = end + 1;
+    // Below a root, lexical normalisation drops every ".." that would climb above it.
+    std::string result = (std::filesystem::path("/") / rest).lexically_normal().generic_string();
+    if (rest.empty() || rest.front() != '/') {
+        result.erase(0, 1);
     }
-    std::string result = !rest.empty() && rest.front() == '/' ? "/" : "";
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        result += (i == 0 ? "" : "/") + parts[i];
-    }
-    if (!parts.empty() && rest.back() == '/') {
-        result += '/';
+    // "a/." names "a": a trailing "/" only where `rest` ends with one.
+    if (result.size() > 1 && result.back() == '/' && rest.back() != '/') {
+        result.pop_back();
     }
     return result;
 }

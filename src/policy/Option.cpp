@@ -43,9 +43,9 @@ bool Option::allFailed()
     return true;
 }
 
-bool Option::groupPartiallyPassed(const std::string& group) const
+bool Option::groupPartiallyPassed(const std::string& groupName) const
 {
-    auto found = groupPartially.find(group);
+    auto found = groupPartially.find(groupName);
     return found != groupPartially.end() && found->second;
 }
 
@@ -84,9 +84,9 @@ bool Option::test()
         countOnlyOneGroups(result);
     }
     if (!result) {
-        for (auto& [group, passed] : groupPassed) {
+        for (auto& [groupName, passed] : groupPassed) {
             if (passed) {
-                primaryGroup = group;
+                primaryGroup = groupName;
                 result = logicType == 1;
                 break;
             }
@@ -103,18 +103,18 @@ bool Option::test()
 void Option::testGroup(const std::string& key, Section& primarySection,
                        const std::vector<std::pair<std::string, Section*>>& secondaries, int& warnings, bool& allSkipped)
 {
-    const std::string group = primarySection.getGroup();
-    const std::string where = " section '" + primarySection.getName() + "' for group '" + group + "'";
+    const std::string groupName = primarySection.getGroup();
+    const std::string where = " section '" + primarySection.getName() + "' for groupName '" + groupName + "'";
     announce(announcedName(key), &primarySection);
     countProgress();
     trace("--Start primary" + where);
     bool primaryPassed = primarySection.test();
-    groupPassed[group] = primaryPassed;
+    groupPassed[groupName] = primaryPassed;
     if (primarySection.getStatus() == 5) {
         ++warnings;
     }
     if (primaryPassed && !primarySection.isCustomScan()) {
-        groupPartially[group] = true;
+        groupPartially[groupName] = true;
     }
     allProhibited = allProhibited && primarySection.isProhibited();
     allSkipped = allSkipped && primarySection.isSkipped();
@@ -127,15 +127,15 @@ void Option::testGroup(const std::string& key, Section& primarySection,
         }
         announce(announcedName(otherKey), secondary);
         countProgress();
-        trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() + "' for group '" +
-              group + "'");
+        trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() + "' for groupName '" +
+              groupName + "'");
         bool counts = secondary->test() || secondary->getStatus() == 4;
-        groupPassed[group] = groupPassed[group] && counts;
+        groupPassed[groupName] = groupPassed[groupName] && counts;
         if (secondary->getStatus() == 5) {
             ++warnings;
         }
         if (counts && secondary->isCustomScan()) {
-            groupPartially[group] = true;
+            groupPartially[groupName] = true;
         }
     }
     trace("--End primary" + where);
@@ -145,15 +145,15 @@ void Option::countOnlyOneGroups(bool& result)
 {
     trace("Option " + getName() + " is an ONLY ONE option");
     int count = 0;
-    for (auto& [group, passed] : groupPassed) {
+    for (auto& [groupName, passed] : groupPassed) {
         if (passed) {
-            trace("group " + group + " fully passed");
+            trace("group " + groupName + " fully passed");
             ++count;
         }
     }
-    for (auto& [group, passed] : groupPartially) {
+    for (auto& [groupName, passed] : groupPartially) {
         if (passed) {
-            trace("group " + group + " partially passed");
+            trace("group " + groupName + " partially passed");
             ++count;
         }
     }

@@ -1,53 +1,27 @@
 #include "xml/XmlText.h"
 
+#include <unicode/ustring.h>
 #include <xercesc/util/XMLString.hpp>
+
+#include <cstdint>
 
 namespace tvpolicy::xml {
 
-namespace {
-
-void append(std::string& out, char32_t code)
-{
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xC0 | (code >> 6));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        out += static_cast<char>(0xE0 | (code >> 12));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (code >> 18));
-        out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    }
-}
-
-bool isHigh(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool isLow(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
-
-}  // namespace
-
 std::string utf8(const XMLCh* text, XMLSize_t length)
 {
+    static_assert(sizeof(XMLCh) == sizeof(UChar), "Xerces-C and ICU share UTF-16 code units");
     std::string out;
-    if (text == nullptr) {
+    if (text == nullptr || length == 0 || length > static_cast<XMLSize_t>(INT32_MAX / 3)) {
         return out;
     }
-    out.reserve(length);
-    for (XMLSize_t i = 0; i < length; ++i) {
-        char32_t unit = text[i];
-        if (isHigh(unit) && i + 1 < length && isLow(text[i + 1])) {
-            append(out, 0x10000 + ((unit - 0xD800) << 10) + (char32_t(text[i + 1]) - 0xDC00));
-            ++i;
-        } else if (isHigh(unit) || isLow(unit)) {
-            append(out, 0xFFFD);
-        } else {
-            append(out, unit);
-        }
-    }
+    // An unpaired surrogate becomes U+FFFD; at most three bytes per code unit.
+    const auto* units = reinterpret_cast<const UChar*>(text);
+    out.resize(3 * length);
+    std::int32_t size = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    u_strToUTF8WithSub(out.data(), static_cast<std::int32_t>(out.size()), &size, units,
+                       static_cast<std::int32_t>(length), 0xFFFD, nullptr, &status);
+    out.resize(U_SUCCESS(status) ? static_cast<std::size_t>(size) : 0);
     return out;
 }
 

@@ -7,8 +7,10 @@
 #include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/version.h>
 
-#include "Command.h"
-#include "Console.h"
+#include "commands/Command.h"
+#include "io/Console.h"
+
+namespace cli = tvpolicy::cli;
 
 int main(int argc, char** argv)
 {

@@ -11,7 +11,7 @@ namespace com::torvane {
 class TVPOLICY_API LoginFieldOption {
 public:
     LoginFieldOption() = default;
-    LoginFieldOption(std::string name, std::string value) : name(std::move(name)), value(std::move(value)) {}
+    LoginFieldOption(std::string shown, std::string sent) : name(std::move(shown)), value(std::move(sent)) {}
 
     std::string name;
     std::string value;

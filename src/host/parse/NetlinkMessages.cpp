@@ -7,10 +7,6 @@ namespace tvpolicy::parse {
 
 namespace {
 
-constexpr std::size_t headerSize = 16;
-constexpr std::uint16_t newAddress = 20;
-constexpr std::uint16_t deletedAddress = 21;
-
 std::size_t aligned(std::size_t length) { return (length + 3) & ~static_cast<std::size_t>(3); }
 
 }  // namespace
@@ -19,16 +15,16 @@ NetlinkSummary summarizeNetlink(const unsigned char* data, std::size_t size)
 {
     NetlinkSummary summary;
     std::size_t offset = 0;
-    while (size - offset >= headerSize) {
+    while (size - offset >= netlinkHeaderSize) {
         std::uint32_t length = 0;
         std::uint16_t type = 0;
         std::memcpy(&length, data + offset, sizeof length);
         std::memcpy(&type, data + offset + sizeof length, sizeof type);
-        if (length < headerSize || length > size - offset) {
+        if (length < netlinkHeaderSize || length > size - offset) {
             summary.malformed = true;
             return summary;
         }
-        if (type == newAddress || type == deletedAddress) {
+        if (type == netlinkNewAddress || type == netlinkDeletedAddress) {
             ++summary.addressChanges;
         }
         std::size_t step = aligned(length);

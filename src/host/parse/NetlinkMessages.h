@@ -1,8 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace tvpolicy::parse {
+
+/// The routing netlink numbers this parser reads, as the kernel defines them (the Linux backend
+/// checks them against <linux/netlink.h> and <linux/rtnetlink.h> at compile time).
+constexpr std::size_t netlinkHeaderSize = 16;        // sizeof(struct nlmsghdr)
+constexpr std::uint16_t netlinkNewAddress = 20;      // RTM_NEWADDR
+constexpr std::uint16_t netlinkDeletedAddress = 21;  // RTM_DELADDR
 
 /// What one datagram read from a routing netlink socket holds.
 struct NetlinkSummary {

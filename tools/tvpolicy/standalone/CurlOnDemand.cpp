@@ -23,6 +23,7 @@
 #include <cstdarg>
 #include <mutex>
 #include <string>
+#include <type_traits>
 
 namespace {
 
@@ -124,30 +125,43 @@ void curl_easy_cleanup(CURL* handle)
     }
 }
 
-// The one argument after the option is a long, a pointer (object or function) or a curl_off_t,
-// by the option's number range, as libcurl itself reads it.
-CURLcode curl_easy_setopt(CURL* handle, CURLoption option, ...)
+// curl_easy_setopt and curl_easy_getinfo take their last argument through "..." after a parameter
+// of enum type, and va_start on a parameter whose type changes when passed through "..." is
+// undefined. Their definitions therefore take the enum's underlying integer type, which is how
+// the platform passes the enum, under libcurl's symbol names.
+using OptionNumber = std::underlying_type_t<CURLoption>;
+using InfoNumber = std::underlying_type_t<CURLINFO>;
+using AnyFunction = void (*)();
+CURLcode forwardSetopt(CURL* handle, OptionNumber option, ...) __asm__("curl_easy_setopt");
+CURLcode forwardGetinfo(CURL* handle, InfoNumber info, ...) __asm__("curl_easy_getinfo");
+
+// The one argument after the option is a long, an object pointer, a function pointer or a
+// curl_off_t, by the option's number range, as libcurl itself reads it.
+CURLcode forwardSetopt(CURL* handle, OptionNumber option, ...)
 {
     TVPOLICY_REAL(curl_easy_setopt);
     if (real == nullptr) {
         return CURLE_FAILED_INIT;
     }
+    const auto name = static_cast<CURLoption>(option);
     std::va_list arguments;
     va_start(arguments, option);
     CURLcode code;
     if (option < CURLOPTTYPE_OBJECTPOINT) {
-        code = real(handle, option, va_arg(arguments, long));
+        code = real(handle, name, va_arg(arguments, long));
+    } else if (option >= CURLOPTTYPE_FUNCTIONPOINT && option < CURLOPTTYPE_OFF_T) {
+        code = real(handle, name, va_arg(arguments, AnyFunction));
     } else if (option >= CURLOPTTYPE_OFF_T && option < CURLOPTTYPE_BLOB) {
-        code = real(handle, option, va_arg(arguments, curl_off_t));
+        code = real(handle, name, va_arg(arguments, curl_off_t));
     } else {
-        code = real(handle, option, va_arg(arguments, void*));
+        code = real(handle, name, va_arg(arguments, void*));
     }
     va_end(arguments);
     return code;
 }
 
 // Every piece of information is written through the one pointer that follows.
-CURLcode curl_easy_getinfo(CURL* handle, CURLINFO info, ...)
+CURLcode forwardGetinfo(CURL* handle, InfoNumber info, ...)
 {
     TVPOLICY_REAL(curl_easy_getinfo);
     if (real == nullptr) {
@@ -155,7 +169,7 @@ CURLcode curl_easy_getinfo(CURL* handle, CURLINFO info, ...)
     }
     std::va_list arguments;
     va_start(arguments, info);
-    CURLcode code = real(handle, info, va_arg(arguments, void*));
+    CURLcode code = real(handle, static_cast<CURLINFO>(info), va_arg(arguments, void*));
     va_end(arguments);
     return code;
 }

@@ -20,6 +20,12 @@
 #include "host/probe/OwnedFd.h"
 #include "host/probe/linux/SdBus.h"
 
+// The address-message parser is OS-neutral and carries the kernel's numbers itself.
+static_assert(tvpolicy::parse::netlinkHeaderSize == sizeof(nlmsghdr) &&
+              tvpolicy::parse::netlinkHeaderSize == NLMSG_HDRLEN);
+static_assert(tvpolicy::parse::netlinkNewAddress == RTM_NEWADDR &&
+              tvpolicy::parse::netlinkDeletedAddress == RTM_DELADDR);
+
 namespace tvpolicy {
 
 namespace {

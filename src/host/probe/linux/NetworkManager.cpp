@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <thread>
+#include <variant>
 
 #include <systemd/sd-id128.h>
 
@@ -32,45 +33,46 @@ constexpr std::uint32_t keyMgmt8021X = 0x200;
 constexpr std::uint32_t activated = 2;
 constexpr std::uint32_t deactivated = 4;
 
-// A value of a connection setting, as NetworkManager types them.
-struct Value {
-    char kind;  // 's' text, 'y' bytes, 'i' int32, 'u' uint32, 'a' list of texts
-    std::string text;
-    std::vector<std::string> list;
-    std::int64_t number = 0;
+// A value of a connection setting, as NetworkManager types them: text ("s"), bytes ("ay"), a
+// signed or unsigned 32-bit number ("i", "u") or a list of texts ("as").
+struct Bytes {
+    std::string data;
 };
+using Value = std::variant<std::string, Bytes, std::int32_t, std::uint32_t, std::vector<std::string>>;
 using Setting = std::vector<std::pair<std::string, Value>>;
 using Settings = std::vector<std::pair<std::string, Setting>>;
 
-Value text(std::string value) { return {'s', std::move(value), {}, 0}; }
-Value bytes(std::string value) { return {'y', std::move(value), {}, 0}; }
-Value int32(std::int64_t value) { return {'i', {}, {}, value}; }
-Value uint32(std::int64_t value) { return {'u', {}, {}, value}; }
-Value texts(std::vector<std::string> value) { return {'a', {}, std::move(value), 0}; }
+Value text(std::string value) { return value; }
+Value bytes(std::string value) { return Bytes{std::move(value)}; }
+Value int32(std::int32_t value) { return value; }
+Value uint32(std::uint32_t value) { return value; }
+Value texts(std::vector<std::string> value) { return value; }
 
 int appendValue(sd_bus_message* m, const Value& value)
 {
-    switch (value.kind) {
-    case 's': return sd_bus_message_append(m, "v", "s", value.text.c_str());
-    case 'i': return sd_bus_message_append(m, "v", "i", static_cast<std::int32_t>(value.number));
-    case 'u': return sd_bus_message_append(m, "v", "u", static_cast<std::uint32_t>(value.number));
-    case 'y': {
+    if (const auto* item = std::get_if<std::string>(&value)) {
+        return sd_bus_message_append(m, "v", "s", item->c_str());
+    }
+    if (const auto* item = std::get_if<std::int32_t>(&value)) {
+        return sd_bus_message_append(m, "v", "i", *item);
+    }
+    if (const auto* item = std::get_if<std::uint32_t>(&value)) {
+        return sd_bus_message_append(m, "v", "u", *item);
+    }
+    if (const auto* item = std::get_if<Bytes>(&value)) {
         int r = sd_bus_message_open_container(m, 'v', "ay");
         if (r >= 0) {
-            r = sd_bus_message_append_array(m, 'y', value.text.data(), value.text.size());
+            r = sd_bus_message_append_array(m, 'y', item->data.data(), item->data.size());
         }
         return r < 0 ? r : sd_bus_message_close_container(m);
     }
-    default: {
-        int r = sd_bus_message_open_container(m, 'v', "as");
-        r = r < 0 ? r : sd_bus_message_open_container(m, 'a', "s");
-        for (const std::string& item : value.list) {
-            r = r < 0 ? r : sd_bus_message_append(m, "s", item.c_str());
-        }
-        r = r < 0 ? r : sd_bus_message_close_container(m);
-        return r < 0 ? r : sd_bus_message_close_container(m);
+    int r = sd_bus_message_open_container(m, 'v', "as");
+    r = r < 0 ? r : sd_bus_message_open_container(m, 'a', "s");
+    for (const std::string& item : std::get<std::vector<std::string>>(value)) {
+        r = r < 0 ? r : sd_bus_message_append(m, "s", item.c_str());
     }
-    }
+    r = r < 0 ? r : sd_bus_message_close_container(m);
+    return r < 0 ? r : sd_bus_message_close_container(m);
 }
 
 int appendSettings(sd_bus_message* m, const Settings& settings)
@@ -139,13 +141,20 @@ void readSettings(sd_bus_message* m, Flat& flat)
 std::string flatText(const Flat& flat, const std::string& key)
 {
     auto found = flat.find(key);
-    return found != flat.end() ? found->second.text : std::string();
+    if (found == flat.end()) {
+        return std::string();
+    }
+    // Text and bytes alike (an SSID is bytes).
+    const auto* bytesValue = std::get_if<Bytes>(&found->second);
+    const auto* textValue = std::get_if<std::string>(&found->second);
+    return bytesValue != nullptr ? bytesValue->data : textValue != nullptr ? *textValue : std::string();
 }
 
 std::vector<std::string> flatList(const Flat& flat, const std::string& key)
 {
     auto found = flat.find(key);
-    return found != flat.end() ? found->second.list : std::vector<std::string>();
+    const auto* list = found != flat.end() ? std::get_if<std::vector<std::string>>(&found->second) : nullptr;
+    return list != nullptr ? *list : std::vector<std::string>();
 }
 
 bool onlyWpa(const std::vector<std::string>& protocols)
@@ -509,7 +518,8 @@ std::vector<NetworkManagerClient::StoredWifi> NetworkManagerClient::storedWifi()
         wifi.settings.ssid = flatText(flat, "802-11-wireless.ssid");
         wifi.settings.securityMode = securityMode(flat);
         auto priority = flat.find("connection.autoconnect-priority");
-        wifi.priority = priority != flat.end() ? static_cast<int>(priority->second.number) : 0;
+        const auto* number = priority != flat.end() ? std::get_if<std::int32_t>(&priority->second) : nullptr;
+        wifi.priority = number != nullptr ? *number : 0;
         int mode = wifi.settings.securityMode;
         if (mode >= 4) {
             std::vector<std::string> eap = flatList(flat, "802-1x.eap");

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "io/Console.h"
+
+namespace tvpolicy::cli {
+
+/// What a subcommand does once the command line is parsed; returns the exit status.
+using CommandAction = std::function<int(Console&)>;
+
+/// A subcommand of tvpolicy. Each lives in its own file and registers itself:
+///
+///     const bool registered = registerCommand({"tasks", "List ...", 10, &setupTasks});
+///
+/// `setup` adds the subcommand's options to `app` (already named and described) and returns
+/// the action to run when the subcommand is chosen; the options are bound to state the action
+/// shares.
+struct Command {
+    std::string name;
+    std::string description;
+    int order;  // position in --help
+    std::function<CommandAction(CLI::App& app)> setup;
+};
+
+bool registerCommand(Command command);
+/// The registered subcommands, in --help order.
+std::vector<Command> registeredCommands();
+
+/// Exit statuses shared by the subcommands.
+/// 0 passed, 1 failed, 2 a usage error or a document that could not be read (or results that
+/// could not be written), 3 a resource the document names could not be fetched.
+enum ExitStatus { exitPassed = 0, exitFailed = 1, exitUsage = 2, exitUnfetched = 3 };
+
+}  // namespace tvpolicy::cli

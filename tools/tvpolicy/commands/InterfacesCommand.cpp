@@ -1,0 +1,138 @@
+// tvpolicy interfaces [--xml] [--json] [--no-guests]: this computer's network interfaces (and
+// its virtual-machine guests' adapters) as the agent reports them.
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include <tvpolicy/host/NetworkInterface.h>
+#include <tvpolicy/host/NetworkInterfaceXML.h>
+
+#include "commands/Command.h"
+
+namespace tvpolicy::cli {
+
+namespace {
+
+using com::torvane::api::NetworkInterface;
+using com::torvane::api::NetworkInterfaceMap;
+using Json = nlohmann::ordered_json;
+
+std::vector<std::string> ipv4Of(const NetworkInterface& interface)
+{
+    std::vector<std::string> addresses;
+    interface.getIPv4Addresses(addresses);
+    return addresses;
+}
+
+std::vector<std::string> ipv6Of(const NetworkInterface& interface)
+{
+    std::vector<std::string> addresses;
+    interface.getIPv6Addresses(addresses);
+    return addresses;
+}
+
+Json interfaceJson(const std::string& key, const NetworkInterface& i)
+{
+    return {{"key", key}, {"name", i.getName()}, {"mac", i.getMACAddress()}, {"ipv4", ipv4Of(i)}, {"ipv6", ipv6Of(i)},
+            {"description", i.getDescription()}, {"medium", i.getMedium()}, {"essid", i.getESSID()},
+            {"bssid", i.getBSSID()}, {"dnsSuffix", i.getDNSSuffix()}, {"vmName", i.getVMName()},
+            {"virtualGuest", i.isVirtualGuest()}, {"up", i.isUp()}};
+}
+
+std::string joined(const std::vector<std::string>& values, const char* separator)
+{
+    std::string text;
+    for (const std::string& value : values) {
+        text += (text.empty() ? "" : separator) + value;
+    }
+    return text;
+}
+
+void printTable(std::ostream& out, const NetworkInterfaceMap& interfaces)
+{
+    std::vector<std::vector<std::string>> rows = {
+        {"KEY", "NAME", "MAC", "MEDIUM", "STATE", "ADDRESSES", "ESSID/BSSID", "VM"}};
+    for (const auto& [key, i] : interfaces) {
+        std::vector<std::string> addresses = ipv4Of(*i);
+        for (const std::string& address : ipv6Of(*i)) {
+            addresses.push_back(address);
+        }
+        std::string wifi = i->getESSID().empty() && i->getBSSID().empty() ? "-" : i->getESSID() + "/" + i->getBSSID();
+        rows.push_back({key, i->getName(), i->getMACAddress().empty() ? "-" : i->getMACAddress(),
+                        i->getMedium().empty() ? "-" : i->getMedium(), i->isUp() ? "UP" : "DOWN",
+                        addresses.empty() ? "-" : joined(addresses, ","), wifi,
+                        i->isVirtualGuest() ? i->getVMName() : "-"});
+    }
+    std::vector<std::size_t> widths(rows.front().size(), 0);
+    for (const auto& row : rows) {
+        for (std::size_t c = 0; c < row.size(); ++c) {
+            widths[c] = std::max(widths[c], row[c].size());
+        }
+    }
+    for (const auto& row : rows) {
+        std::string line;
+        for (std::size_t c = 0; c < row.size(); ++c) {
+            line += row[c];
+            if (c + 1 < row.size()) {
+                line += std::string(widths[c] - row[c].size() + 2, ' ');
+            }
+        }
+        out << line << '\n';
+    }
+}
+
+// The inventory for the length of the command.
+struct Inventory {
+    explicit Inventory(bool guests)
+    {
+        NetworkInterface::getInstances(interfaces);
+        if (guests) {
+            NetworkInterface::getVirtualGuestInterfaces(interfaces);
+        }
+    }
+    ~Inventory() { NetworkInterface::freeInstances(interfaces); }
+    Inventory(const Inventory&) = delete;
+    Inventory& operator=(const Inventory&) = delete;
+
+    NetworkInterfaceMap interfaces;
+};
+
+CommandAction setupInterfaces(CLI::App& app)
+{
+    struct Options {
+        bool xml = false;
+        bool json = false;
+        bool noGuests = false;
+    };
+    auto options = std::make_shared<Options>();
+    auto* xml = app.add_flag("--xml", options->xml, "Print the interface report XML the agent sends to the server");
+    app.add_flag("--json", options->json, "Print the interfaces as a JSON array")->excludes(xml);
+    app.add_flag("--no-guests", options->noGuests, "Leave out the adapters of virtual-machine guests");
+    return [options](Console& console) {
+        if (options->xml) {
+            console.out() << com::torvane::api::getNetworkInterfacesXML(options->noGuests ? "NONE" : "ALL") << '\n';
+            return exitPassed;
+        }
+        Inventory inventory(!options->noGuests);
+        if (options->json) {
+            Json list = Json::array();
+            for (const auto& [key, interface] : inventory.interfaces) {
+                list.push_back(interfaceJson(key, *interface));
+            }
+            console.out() << list.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+        } else {
+            printTable(console.out(), inventory.interfaces);
+        }
+        return exitPassed;
+    };
+}
+
+const bool registered = registerCommand(
+    {"interfaces", "Print this computer's network interfaces and its guests' adapters (table, --xml or --json)", 45,
+     &setupInterfaces});
+
+}  // namespace
+}  // namespace tvpolicy::cli

@@ -1,0 +1,144 @@
+// tvpolicy monitor FILE [--once] [--count N]: runs the monitors of a document as the agent
+// does, each when its next run time has come, printing every status XML as one line.
+#include <ctime>
+#include <exception>
+#include <list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <tvpolicy/checks/Monitor.h>
+
+#include "commands/Command.h"
+#include "policy/DocumentFile.h"
+#include "io/StopSignals.h"
+
+namespace tvpolicy::cli {
+
+namespace {
+
+using com::torvane::policy::Monitor;
+using MonitorList = std::vector<std::unique_ptr<Monitor>>;
+
+MonitorList takeMonitors(std::list<Monitor*>* parsed)
+{
+    std::unique_ptr<std::list<Monitor*>> owned(parsed);
+    MonitorList monitors;
+    for (Monitor* monitor : *owned) {
+        monitors.emplace_back(monitor);
+    }
+    return monitors;
+}
+
+/// Runs `monitor`, prints its status line and tells whether it reported "true".
+bool runAndPrint(Monitor& monitor, Console& console)
+{
+    static const std::string passed = "<status>true</status></monitor>";
+    std::unique_ptr<com::torvane::policy::MonitorResponse> response(monitor.perform());
+    std::string xml = response->getXML();
+    console.out() << xml << '\n' << std::flush;
+    return xml.size() >= passed.size() && xml.compare(xml.size() - passed.size(), passed.size(), passed) == 0;
+}
+
+bool notAfter(const std::timespec& a, const std::timespec& b)
+{
+    return a.tv_sec < b.tv_sec || (a.tv_sec == b.tv_sec && a.tv_nsec <= b.tv_nsec);
+}
+
+int runOnce(MonitorList& monitors, Console& console)
+{
+    bool allTrue = true;
+    for (auto& monitor : monitors) {
+        allTrue = runAndPrint(*monitor, console) && allTrue;
+    }
+    return allTrue ? exitPassed : exitFailed;
+}
+
+// Runs every due monitor in document order, then sleeps until the next one is due. A monitor
+// without a positive period runs once only. Stops after `count` runs (0: no limit), when no
+// monitor is left to run, or on SIGINT/SIGTERM, always between two runs.
+int runScheduled(MonitorList& monitors, long count, Console& console)
+{
+    StopSignals stop;
+    std::vector<Monitor*> schedule;
+    for (auto& monitor : monitors) {
+        schedule.push_back(monitor.get());
+    }
+    long runs = 0;
+    while (!schedule.empty()) {
+        std::timespec now{};
+        ::clock_gettime(CLOCK_REALTIME, &now);
+        for (auto it = schedule.begin(); it != schedule.end();) {
+            Monitor* monitor = *it;
+            if (!notAfter(monitor->getNextRunTime(), now)) {
+                ++it;
+                continue;
+            }
+            runAndPrint(*monitor, console);
+            if ((count > 0 && ++runs >= count) || stop.stopRequested()) {
+                return exitPassed;
+            }
+            it = monitor->getPeriod() > 0 ? it + 1 : schedule.erase(it);
+        }
+        if (schedule.empty()) {
+            break;
+        }
+        std::timespec next = schedule.front()->getNextRunTime();
+        for (Monitor* monitor : schedule) {
+            if (notAfter(monitor->getNextRunTime(), next)) {
+                next = monitor->getNextRunTime();
+            }
+        }
+        if (stop.waitUntil(next)) {
+            break;
+        }
+    }
+    return exitPassed;
+}
+
+CommandAction setupMonitor(CLI::App& app)
+{
+    struct Options {
+        std::string file;
+        bool once = false;
+        long count = 0;
+    };
+    auto options = std::make_shared<Options>();
+    app.add_option("FILE", options->file, "A document of Monitor elements, or - for standard input")->required();
+    auto* once = app.add_flag("--once", options->once,
+                              "Run every monitor once; exit 0 only when all report true");
+    const CLI::Validator atLeastOne(
+        [](std::string& value) {
+            try {
+                std::size_t used = 0;
+                long number = std::stol(value, &used);
+                return used == value.size() && number >= 1 ? std::string() : std::string("must be at least 1");
+            } catch (const std::exception&) {
+                return std::string("must be at least 1");
+            }
+        },
+        "N");
+    app.add_option("--count", options->count, "Stop after N runs in all (N at least 1)")
+        ->check(atLeastOne)->excludes(once);
+
+    return [options](Console& console) -> int {
+        std::optional<std::string> text = loadXmlDocument(console, "monitor", options->file);
+        if (!text) {
+            return exitUsage;
+        }
+        MonitorList monitors = takeMonitors(Monitor::parseMonitors(*text));
+        if (monitors.empty()) {
+            console.err() << "tvpolicy monitor: " << options->file << " holds no Monitor element\n";
+            return exitUsage;
+        }
+        return options->once ? runOnce(monitors, console) : runScheduled(monitors, options->count, console);
+    };
+}
+
+const bool registered = registerCommand(
+    {"monitor", "Run the monitors of a document, each when it is due, printing each status XML line", 30,
+     &setupMonitor});
+
+}  // namespace
+}  // namespace tvpolicy::cli

@@ -1,0 +1,287 @@
+// tvpolicy run SOURCE: evaluates a policy on this computer and reports every item, what was
+// not evaluated, and the verdict.
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+#include <xercesc/sax2/SAX2XMLReader.hpp>
+#include <xercesc/sax2/XMLReaderFactory.hpp>
+
+#include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/Machine.h>
+#include <tvpolicy/host/PostureProbe.h>
+#include <tvpolicy/policy/Policy.h>
+#include <tvpolicy/policy/Section.h>
+#include <tvpolicy/version.h>
+
+#include "commands/Command.h"
+#include "policy/DescribedHost.h"
+#include "policy/DocumentFile.h"
+#include "policy/PolicyInput.h"
+#include "report/HtmlReport.h"
+#include "report/JunitReport.h"
+#include "policy/PolicyNotices.h"
+#include "report/PolicyReport.h"
+#include "report/ResultsFile.h"
+#include "report/RunProgress.h"
+#include "report/Sha256.h"
+#include "io/TeeStreamBuf.h"
+#include "io/TerminalText.h"
+
+namespace tvpolicy::cli {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct RunOptions {
+    std::string source;
+    bool json = false;
+    bool trace = false;
+    bool strict = false;
+    bool quiet = false;
+    bool noColor = false;
+    bool enforce = false;
+    std::string output;
+    std::string format;
+    std::string htmlReport;
+    std::string junitReport;
+    std::string hostDescription;
+    std::size_t maxSizeMB = defaultMaxDocumentMB;
+};
+
+// Sections built from an address (`include`) are read before the run, here as an agent would.
+void readIncludes(Policy& policy, Console& console)
+{
+    std::unique_ptr<xercesc::SAX2XMLReader> reader;
+    for (auto& [key, item] : policy.getSections()) {
+        bool option = item->getType() == "Option";
+        if (!option && item->getUrl().empty()) {
+            continue;
+        }
+        if (!reader) {
+            reader.reset(xercesc::XMLReaderFactory::createXMLReader());
+        }
+        if (!option) {
+            console.err() << "reading included section '" << key << "' from " << item->getUrl() << '\n' << std::flush;
+        }
+        item->parse(reader.get());
+    }
+}
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::string isoTime(std::chrono::system_clock::time_point when)
+{
+    std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
+    return text;
+}
+
+// Where the results go and in which form: a file (atomically) or standard output.
+int deliver(const RunOptions& options, const Json& report, const std::string& trace, Console& console)
+{
+    bool toFile = !options.output.empty();
+    std::string format = options.format;
+    if (format.empty()) {
+        bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
+        format = options.json || (toFile && jsonName) ? "json" : "text";
+    }
+    TextStyle style{!toFile && colourWanted(console.outFd(), options.noColor)};
+    std::ostringstream body;
+    if (format == "json") {
+        body << report.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    } else {
+        if (options.trace) {
+            body << "Trace:\n" << trace << '\n';
+        }
+        printReport(report, body, style);
+    }
+    if (!toFile) {
+        console.out() << body.str();
+        return exitPassed;
+    }
+    std::string why;
+    if (!writeFileAtomically(options.output, body.str(), why)) {
+        console.err() << "tvpolicy run: the results were not saved: " << why << '\n';
+        return exitUsage;
+    }
+    console.out() << verdictLine(report, style) << '\n';
+    return exitPassed;
+}
+
+// The HTML and JUnit files asked for, each written whole or not at all.
+int writeReports(const RunOptions& options, const Json& report, const std::string& trace, Console& console)
+{
+    std::string why;
+    if (!options.htmlReport.empty()) {
+        Json withTrace = report;
+        if (!withTrace.contains("trace")) {
+            withTrace["trace"] = linesOf(trace);
+        }
+        if (!writeFileAtomically(options.htmlReport, htmlReport(withTrace), why)) {
+            console.err() << "tvpolicy run: the HTML report was not saved: " << why << '\n';
+            return exitUsage;
+        }
+    }
+    if (!options.junitReport.empty()) {
+        std::string xml = junitReport(report, why);
+        if (xml.empty() || !writeFileAtomically(options.junitReport, xml, why)) {
+            console.err() << "tvpolicy run: the JUnit report was not saved: " << why << '\n';
+            return exitUsage;
+        }
+    }
+    return exitPassed;
+}
+
+int evaluate(const RunOptions& options, Console& console);
+
+int runPolicy(const RunOptions& options, Console& console)
+{
+    if (options.hostDescription.empty()) {
+        return evaluate(options, console);
+    }
+    std::string error;
+    std::unique_ptr<DescribedHost> described = DescribedHost::load(options.hostDescription, error);
+    if (!described) {
+        console.err() << "tvpolicy run: --host " << error << '\n';
+        return exitUsage;
+    }
+    tvpolicy::ScopedHost scope(described->host());
+    tvpolicy::ScopedPosture posture(described->posture());
+    return evaluate(options, console);
+}
+
+int evaluate(const RunOptions& options, Console& console)
+{
+    const auto started = std::chrono::system_clock::now();
+    const auto clock = std::chrono::steady_clock::now();
+    bool errColour = colourWanted(console.errFd(), options.noColor);
+
+    std::string bytes;
+    std::unique_ptr<Policy> policy = readPolicy(options.source, options.maxSizeMB << 20, "run", console, bytes);
+    if (!policy) {
+        return exitUsage;
+    }
+
+    // An include that cannot be read ends the run, as it ends the agent; the CLI says why and
+    // ends with its own status.
+    Section::setReadFailureHandler([&console](const std::string& url, const std::string& reason) {
+        console.err() << "tvpolicy run: cannot read the included section at " << url << ": " << reason << '\n'
+                      << std::flush;
+        console.out() << std::flush;
+        std::exit(exitUnfetched);
+    });
+    readIncludes(*policy, console);
+    Section::setReadFailureHandler(nullptr);
+
+    std::vector<Notice> notices = documentNotices(*policy);
+    std::size_t documentWarnings = notices.size();
+    for (const Notice& notice : hostNotices(*policy)) {
+        notices.push_back(notice);
+    }
+    for (const Notice& notice : notices) {
+        console.err() << "tvpolicy run: " << toned("warning", Tone::warn, errColour) << ": "
+                      << describe(notice) << '\n';
+    }
+    if (options.strict && documentWarnings > 0) {
+        console.err() << "tvpolicy run: --strict: the policy holds what would not be evaluated; it was not run\n";
+        return exitUsage;
+    }
+
+    auto mode = options.quiet                           ? RunProgress::Mode::quiet
+                : smartTerminal(console.errFd()) ? RunProgress::Mode::bar
+                                                        : RunProgress::Mode::lines;
+    RunProgress progress(console.err(), console.errFd(), mode, policy->getProgressMax());
+    Policy& running = *policy;
+    policy->connect([&progress, &running](std::shared_ptr<std::string> name) {
+        if (!name->empty()) {
+            progress.started(*name);
+        } else if (const Section* passedOver = running.getAnnouncedSection()) {
+            progress.passedOver(passedOver->getName());
+        }
+    });
+    std::string trace;
+    bool passed = false;
+    {
+        TeeStreamBuf capture(std::clog, trace, options.trace || !options.htmlReport.empty());
+        passed = policy->run();
+    }
+    progress.finish();
+
+    int status = passed ? exitPassed : exitFailed;
+    if (policy->isAuditOnly() && !options.enforce) {
+        status = exitPassed;  // an audit-only policy reports; it does not decide access
+    }
+    Json report = reportPolicy(*policy, passed, progress.announced(), notices);
+    report["exitStatus"] = status;
+    report["run"] = {{"tool", "tvpolicy"},
+                     {"toolVersion", TVPOLICY_VERSION},
+                     {"libraryVersion", tvpolicy::libraryVersion()},
+                     {"startTime", isoTime(started)},
+                     {"durationMs", std::chrono::duration_cast<std::chrono::milliseconds>(
+                                        std::chrono::steady_clock::now() - clock).count()},
+                     {"hostName", Machine::getHostName()},
+                     {"os", Machine::getOSString()},
+                     {"osVersion", Machine::getOSVersion()}};
+    report["source"] = {{"path", options.source}, {"bytes", bytes.size()}, {"sha256", sha256Hex(bytes)}};
+    if (options.trace) {
+        report["trace"] = linesOf(trace);
+    }
+    int written = writeReports(options, report, trace, console);
+    int delivered = deliver(options, report, trace, console);
+    return written != exitPassed ? written : delivered != exitPassed ? delivered : status;
+}
+
+CommandAction setupRun(CLI::App& app)
+{
+    auto options = std::make_shared<RunOptions>();
+    app.add_option("SOURCE", options->source, "The policy: a file, or - for standard input")->required();
+    app.add_flag("--json", options->json, "Print the results as one JSON document (same as --format json)");
+    app.add_flag("--trace", options->trace, "Show the evaluation trace");
+    app.add_flag("--strict", options->strict,
+                 "Refuse (exit 2) a policy that holds elements or attributes that would not be evaluated");
+    app.add_flag("-q,--quiet", options->quiet, "Show no progress");
+    app.add_flag("--no-color", options->noColor, "No colour on a terminal (also: NO_COLOR set)");
+    app.add_flag("--enforce", options->enforce, "Exit by the verdict also for an audit-only policy");
+    app.add_option("--output", options->output,
+                   "Write the results to FILE (atomically) instead of standard output, which then shows the verdict")
+        ->option_text("FILE");
+    app.add_option("--format", options->format, "Results as text or json (default: by --json, or by FILE's .json)")
+        ->check(CLI::IsMember({"text", "json"}));
+    app.add_option("--report", options->htmlReport, "Also write a self-contained HTML report to FILE")
+        ->option_text("FILE");
+    app.add_option("--junit", options->junitReport, "Also write the results as JUnit XML to FILE")->option_text("FILE");
+    app.add_option("--host", options->hostDescription,
+                   "Evaluate against the host that the JSON document FILE describes, not this computer")
+        ->option_text("FILE");
+    app.add_option("--max-size", options->maxSizeMB, "Refuse a policy larger than N MB before reading it")
+        ->capture_default_str()
+        ->check(CLI::Range(std::size_t{1}, std::size_t{4096}));
+    return [options](Console& console) { return runPolicy(*options, console); };
+}
+
+const bool registered = registerCommand(
+    {"run",
+     "Evaluate a policy on this computer: exit 0 passed, 1 failed, 2 unreadable or refused, 3 an include could not "
+     "be fetched",
+     10, &setupRun});
+
+}  // namespace
+}  // namespace tvpolicy::cli

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/PostureProbe.h>
+
+namespace tvpolicy::cli {
+
+/// A host described by a JSON document (format in the README), ready to stand in for this
+/// computer through tvpolicy::ScopedHost. Paths the checks open or search are mapped into the
+/// description's "root" folder (relative to the document's folder); without one, into an empty
+/// folder made for the run and removed with it. Commands are answered from "commands", never run.
+class DescribedHost {
+public:
+    /// Reads `path`; null, with `error` naming the field at fault, when it cannot be used.
+    static std::unique_ptr<DescribedHost> load(const std::string& path, std::string& error);
+    ~DescribedHost();
+    DescribedHost(const DescribedHost&) = delete;
+    DescribedHost& operator=(const DescribedHost&) = delete;
+
+    tvpolicy::FakeHost& host() { return host_; }
+    /// The posture facts (services, sockets, packet filter, mounts, kernel parameters, file
+    /// owners and modes), for tvpolicy::ScopedPosture.
+    tvpolicy::DescribedPosture& posture() { return posture_; }
+
+private:
+    DescribedHost() = default;
+
+    tvpolicy::FakeHost host_;
+    tvpolicy::DescribedPosture posture_;
+    std::string emptyRoot_;  // made for a description without "root"; removed on destruction
+};
+
+}  // namespace tvpolicy::cli

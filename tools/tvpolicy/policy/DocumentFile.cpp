@@ -1,0 +1,119 @@
+#include "policy/DocumentFile.h"
+
+#include <cerrno>
+#include <cstring>
+#include <utility>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "io/UniqueFd.h"
+
+namespace tvpolicy::cli {
+
+namespace {
+
+// Reads all of `fd` into `text`; false, with `why` set, on a read error or past `maxBytes`.
+bool readAll(int fd, std::size_t maxBytes, std::string& text, std::string& why)
+{
+    std::string content;
+    char buffer[65536];
+    for (;;) {
+        ssize_t count = ::read(fd, buffer, sizeof buffer);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count < 0) {
+            why = std::strerror(errno);
+            return false;
+        }
+        if (count == 0) {
+            break;
+        }
+        if (content.size() + static_cast<std::size_t>(count) > maxBytes) {
+            why = "larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)";
+            return false;
+        }
+        content.append(buffer, static_cast<std::size_t>(count));
+    }
+    text = std::move(content);
+    return true;
+}
+
+}  // namespace
+
+DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
+{
+    DocumentRead read;
+    std::string why;
+    auto fail = [&](const std::string& reason) {
+        read.error = "cannot read " + (path == "-" ? std::string("standard input") : "'" + path + "'") + ": " + reason;
+        return read;
+    };
+    if (path == "-") {
+        if (!readAll(STDIN_FILENO, maxBytes, read.text, why)) {
+            return fail(why);
+        }
+        read.ok = true;
+        return read;
+    }
+    UniqueFd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat info {};
+    if (!file || ::fstat(file.get(), &info) != 0) {
+        return fail(std::strerror(errno));
+    }
+    if (S_ISDIR(info.st_mode)) {
+        read.directory = true;
+        return fail("is a directory");
+    }
+    if (S_ISREG(info.st_mode) && static_cast<std::uint64_t>(info.st_size) > maxBytes) {
+        return fail("larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)");
+    }
+    // Opened without blocking so that a FIFO without a writer cannot hang the open; reads block.
+    ::fcntl(file.get(), F_SETFL, ::fcntl(file.get(), F_GETFL) & ~O_NONBLOCK);
+    if (!readAll(file.get(), maxBytes, read.text, why)) {
+        return fail(why);
+    }
+    read.ok = true;
+    return read;
+}
+
+std::optional<std::string> loadDocument(Console& console, const std::string& command, const std::string& path,
+                                        std::size_t maxBytes)
+{
+    DocumentRead read = readDocument(path, maxBytes);
+    if (!read.ok) {
+        console.err() << "tvpolicy " << command << ": " << read.error << '\n';
+        return std::nullopt;
+    }
+    return std::move(read.text);
+}
+
+std::string problemOf(const tvpolicy::DocumentCheck& check, const std::string& text)
+{
+    if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
+        return text.empty() ? "is empty" : "holds only white space";
+    }
+    std::string problem = "not XML: " + (check.problem.empty() ? std::string("no element") : check.problem);
+    if (check.location.line > 0) {
+        problem += " at line " + std::to_string(check.location.line) + ", column " + std::to_string(check.location.column);
+    }
+    return problem;
+}
+
+std::optional<std::string> loadXmlDocument(Console& console, const std::string& command, const std::string& path)
+{
+    std::optional<std::string> text = loadDocument(console, command, path);
+    if (!text) {
+        return std::nullopt;
+    }
+    tvpolicy::DocumentCheck check = tvpolicy::checkDocument(*text);
+    if (!check.readable) {
+        console.err() << "tvpolicy " << command << ": " << (path == "-" ? "standard input" : path) << ": "
+                      << problemOf(check, *text) << '\n';
+        return std::nullopt;
+    }
+    return text;
+}
+
+}  // namespace tvpolicy::cli

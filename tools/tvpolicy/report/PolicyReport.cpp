@@ -1,0 +1,374 @@
+#include "report/PolicyReport.h"
+
+#include <iterator>
+#include <map>
+
+#include <tvpolicy/checks/PostureTasks.h>
+#include <tvpolicy/checks/VersionEvidence.h>
+#include <tvpolicy/policy/Option.h>
+#include <tvpolicy/policy/Policy.h>
+#include <tvpolicy/policy/Section.h>
+#include <tvpolicy/policy/Task.h>
+#include <tvpolicy/policy/TaskResponse.h>
+#include <tvpolicy/policy/TaskSource.h>
+
+#include "policy/PolicyWalk.h"
+#include "io/TerminalText.h"
+
+namespace tvpolicy::cli {
+
+using Json = nlohmann::ordered_json;
+
+std::string statusText(unsigned status)
+{
+    switch (status) {
+    case 0: return "skipped";
+    case 1: return "passed";
+    case 2: return "failed";
+    case 3: return "failed (passed, but prohibited)";
+    case 4: return "skipped (failed, but prohibited)";
+    case 5: return "warning";
+    default: return "status " + std::to_string(status);
+    }
+}
+
+namespace {
+
+// How a section's status counts in the totals.
+const char* tally(unsigned status)
+{
+    switch (status) {
+    case 1: return "passed";
+    case 2:
+    case 3: return "failed";
+    case 5: return "warning";
+    default: return "skipped";
+    }
+}
+
+// A version as a person reads it: without the line end a command printed after it.
+std::string trimmed(const std::string& text)
+{
+    std::size_t first = text.find_first_not_of(" \t\r\n");
+    std::size_t last = text.find_last_not_of(" \t\r\n");
+    return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
+}
+
+// The element, attributes and line of a check, its compared versions, and its nested terms.
+void describeTask(Section& section, Task& task, Json& entry)
+{
+    if (const tvpolicy::TaskSource* source = section.getTaskSource(&task)) {
+        entry["element"] = source->element;
+        Json attributes = Json::object();
+        for (const auto& [name, value] : source->attributes) {
+            attributes[name] = value;
+        }
+        entry["attributes"] = attributes;
+        entry["line"] = source->location.line;
+    }
+    if (const auto* version = dynamic_cast<const tvpolicy::VersionEvidence*>(&task)) {
+        if (!version->lastRequiredVersion().empty() || !version->lastFoundVersion().empty()) {
+            entry["version"] = {{"found", trimmed(version->lastFoundVersion())},
+                                {"required", version->lastRequiredVersion()},
+                                {"operation", version->lastOperation()}};
+        }
+    }
+    if (const auto* posture = dynamic_cast<const tvpolicy::PostureEvidence*>(&task)) {
+        if (!posture->lastFinding().empty()) {
+            entry["found"] = posture->lastFinding();
+        }
+    }
+    std::vector<Task*> terms = termsOf(task);
+    if (!terms.empty()) {
+        entry["terms"] = Json::array();
+        for (Task* term : terms) {
+            Json nested = {{"type", term->getType()}};
+            describeTask(section, *term, nested);
+            entry["terms"].push_back(nested);
+        }
+    }
+}
+
+Json tasksOf(Section& section)
+{
+    // The responses of the last test() are the last ones kept, one per task in order.
+    Json tasks = Json::array();
+    const std::list<Task*>& list = section.getTasks();
+    std::list<TaskResponse*>& results = section.getResults();
+    auto response = results.begin();
+    if (results.size() >= list.size()) {
+        std::advance(response, results.size() - list.size());
+    } else {
+        response = results.end();
+    }
+    for (Task* task : list) {
+        Json entry = {{"type", task->getType()}};
+        if (response != results.end()) {
+            entry["passed"] = (*response)->passed;
+            entry["message"] = (*response)->message;
+            ++response;
+        } else {
+            entry["passed"] = nullptr;  // not performed
+            entry["message"] = "";
+        }
+        describeTask(section, *task, entry);
+        tasks.push_back(entry);
+    }
+    return tasks;
+}
+
+Json itemOf(const std::string& key, Section& section, Json& counts)
+{
+    bool option = section.getType() == "Option";
+    Json item = {{"key", key},
+                 {"kind", option ? "option" : "section"},
+                 {"name", shownName(key, section)},
+                 {"status", section.getStatus()},
+                 {"statusText", statusText(section.getStatus())},
+                 {"passed", section.passed()},
+                 {"line", section.getLocation().line}};
+    if (option) {
+        auto& asOption = static_cast<Option&>(section);
+        item["logicType"] = asOption.getLogicType();
+        item["primaryGroup"] = asOption.getPrimaryGroup();
+        item["sections"] = Json::array();
+        for (auto& [childKey, child] : asOption.getSections()) {
+            item["sections"].push_back(itemOf(childKey, *child, counts));
+        }
+    } else {
+        item["group"] = section.getGroup();
+        item["primary"] = section.isPrimary();
+        item["prohibit"] = section.isProhibited();
+        item["warningSeverity"] = section.isWarning();
+        item["customScan"] = section.isCustomScan();
+        if (!section.getUrl().empty()) {
+            item["url"] = section.getUrl();
+            item["evaluated"] = false;  // included sections are read, never evaluated
+        }
+        item["tasks"] = tasksOf(section);
+        counts["sections"] = counts["sections"].get<unsigned>() + 1;
+        const char* bucket = tally(section.getStatus());
+        counts[bucket] = counts[bucket].get<unsigned>() + 1;
+    }
+    item["help"] = section.getHelp();
+    item["instructionsUrl"] = section.getInstructionsUrl();
+    return item;
+}
+
+Json switchesOf(Policy& policy)
+{
+    Json extra = Json::object();
+    // The extra information keeps document order in its joined form; the map only the last value.
+    const std::string& joined = policy.getExtraInformation();
+    for (std::size_t start = 0; start < joined.size();) {
+        std::size_t end = joined.find('&', start);
+        std::string pair = joined.substr(start, end == std::string::npos ? std::string::npos : end - start);
+        std::size_t equals = pair.find('=');
+        if (equals != std::string::npos) {
+            extra[pair.substr(0, equals)] = pair.substr(equals + 1);
+        }
+        start = end == std::string::npos ? joined.size() : end + 1;
+    }
+    return {{"auditOnly", policy.isAuditOnly()},
+            {"registerFailedRogue", policy.isRegisterFailedRogue()},
+            {"renewIP", policy.isRenewIP()},
+            {"debug", policy.isDebug()},
+            {"primaryIP", policy.getPrimaryIP()},
+            {"baseUrl", policy.getBaseUrl()},
+            {"reportUrls",
+             {{"success", policy.getSuccessUrl()},
+              {"failure", policy.getFailureUrl()},
+              {"init", policy.getInitUrl()},
+              {"progress", policy.getProgressUrl()},
+              {"results", policy.getResultsUrl()},
+              {"supplicant", policy.getSupplicantUrl()}}},
+            {"extra", extra}};
+}
+
+void printTerms(const Json& task, std::ostream& out, const std::string& indent)
+{
+    if (!task.contains("terms")) {
+        return;
+    }
+    for (const Json& term : task["terms"]) {
+        std::string version = comparedVersions(term);
+        out << indent << checkLabel(term) << (version.empty() ? "" : " - " + version) << '\n';
+        printTerms(term, out, indent + "  ");
+    }
+}
+
+void printItem(const Json& item, std::ostream& out, const std::string& indent, const TextStyle& style)
+{
+    bool option = item["kind"] == "option";
+    unsigned status = item["status"].get<unsigned>();
+    Tone tone = status == 1 ? Tone::pass : status == 5 ? Tone::warn : status == 2 || status == 3 ? Tone::fail : Tone::warn;
+    bool skipped = status == 0 || status == 4;
+    std::string words = item["statusText"].get<std::string>();
+    out << indent << (option ? "Option" : "Section") << " \"" << item["name"].get<std::string>()
+        << "\": " << (skipped ? words : toned(words, tone, style.colour));
+    if (!option && !item["group"].get<std::string>().empty()) {
+        out << "  (group " << item["group"].get<std::string>() << (item["primary"].get<bool>() ? ", primary" : ", secondary")
+            << ")";
+    }
+    if (item.contains("url")) {
+        out << "  (included from " << item["url"].get<std::string>() << "; included sections are never evaluated)";
+    }
+    out << '\n';
+    if (option) {
+        for (const Json& child : item["sections"]) {
+            printItem(child, out, indent + "  ", style);
+        }
+        return;
+    }
+    for (const Json& task : item["tasks"]) {
+        std::string outcome = task["passed"].is_null() ? "not run" : task["passed"].get<bool>() ? "passed" : "failed";
+        if (!task["passed"].is_null()) {
+            outcome = toned(outcome, task["passed"].get<bool>() ? Tone::pass : Tone::fail, style.colour);
+        }
+        out << indent << "    " << checkLabel(task) << ": " << outcome;
+        std::string message = task["message"].get<std::string>();
+        std::string version = comparedVersions(task);
+        if (!message.empty()) {
+            out << " - " << message;
+        }
+        if (!version.empty()) {
+            out << " - " << version;
+        }
+        out << '\n';
+        printTerms(task, out, indent + "      ");
+    }
+    if (status == 2 || status == 3 || status == 5) {
+        if (!item["help"].get<std::string>().empty()) {
+            out << indent << "    help: " << item["help"].get<std::string>() << '\n';
+        }
+        if (!item["instructionsUrl"].get<std::string>().empty()) {
+            out << indent << "    instructions: " << item["instructionsUrl"].get<std::string>() << '\n';
+        }
+    }
+}
+
+void printSwitches(const Json& switches, std::ostream& out)
+{
+    std::vector<std::string> flags;
+    if (switches["auditOnly"].get<bool>()) {
+        flags.push_back("audit only (the verdict is reported, not enforced: exit status 0)");
+    }
+    if (switches["registerFailedRogue"].get<bool>()) {
+        flags.push_back("register failed rogue");
+    }
+    if (!switches["renewIP"].get<bool>()) {
+        flags.push_back("no IP renewal after the run");
+    }
+    if (switches["debug"].get<bool>()) {
+        flags.push_back("debug trace");
+    }
+    if (!flags.empty()) {
+        out << "\nSwitches: ";
+        for (std::size_t i = 0; i < flags.size(); ++i) {
+            out << (i > 0 ? "; " : "") << flags[i];
+        }
+        out << '\n';
+    }
+    bool heading = false;
+    for (const auto& [name, url] : switches["reportUrls"].items()) {
+        if (!url.get<std::string>().empty()) {
+            out << (heading ? "" : "Reports to:\n") << "  " << name << ": " << url.get<std::string>() << '\n';
+            heading = true;
+        }
+    }
+    if (!switches["primaryIP"].get<std::string>().empty()) {
+        out << "Primary IP: " << switches["primaryIP"].get<std::string>() << '\n';
+    }
+    for (const auto& [name, value] : switches["extra"].items()) {
+        out << "Extra: " << name << "=" << value.get<std::string>() << '\n';
+    }
+}
+
+}  // namespace
+
+std::string checkLabel(const Json& task)
+{
+    std::string text = task.value("element", task["type"].get<std::string>());
+    if (task.contains("attributes")) {
+        for (const auto& [name, value] : task["attributes"].items()) {
+            text += " " + name + "=\"" + value.get<std::string>() + "\"";
+        }
+    }
+    return text;
+}
+
+std::string comparedVersions(const Json& task)
+{
+    if (!task.contains("version")) {
+        // A posture check's finding, unless it is the message shown already.
+        std::string found = task.value("found", "");
+        return found == task.value("message", "") ? "" : found;
+    }
+    const Json& version = task["version"];
+    std::string operation = version["operation"].get<std::string>();
+    return "found \"" + version["found"].get<std::string>() + "\", required " + (operation.empty() ? "gte" : operation) +
+           " \"" + version["required"].get<std::string>() + "\"";
+}
+
+Json reportPolicy(Policy& policy, bool passed, unsigned announced, const std::vector<Notice>& notices)
+{
+    Json counts = {{"sections", 0u}, {"passed", 0u}, {"failed", 0u}, {"warning", 0u}, {"skipped", 0u}};
+    Json items = Json::array();
+    for (auto& [key, item] : policy.getSections()) {
+        items.push_back(itemOf(key, *item, counts));
+    }
+    Json warnings = Json::array();
+    for (const Notice& notice : notices) {
+        warnings.push_back({{"kind", notice.kind}, {"line", notice.line}, {"section", notice.section},
+                            {"message", notice.message}});
+    }
+    return {{"policy", policy.getName()},
+            {"result", passed ? "PASS" : "FAIL"},
+            {"passed", passed},
+            {"counts", counts},
+            {"progress", {{"announced", announced}, {"max", policy.getProgressMax()}}},
+            {"switches", switchesOf(policy)},
+            {"warnings", warnings},
+            {"items", items}};
+}
+
+std::string verdictLine(const Json& report, const TextStyle& style)
+{
+    const Json& counts = report["counts"];
+    std::string result = report["result"].get<std::string>();
+    std::string line = "Policy \"" + report["policy"].get<std::string>() + "\": " +
+                       toned(result, result == "PASS" ? Tone::pass : Tone::fail, style.colour) + " (" +
+                       counts["passed"].dump() + " passed, " + counts["failed"].dump() + " failed, " +
+                       counts["warning"].dump() + " warning, " + counts["skipped"].dump() + " skipped of " +
+                       counts["sections"].dump() + " sections";
+    std::map<std::string, unsigned> unevaluated;
+    for (const Json& warning : report["warnings"]) {
+        ++unevaluated[warning["kind"].get<std::string>()];
+    }
+    auto note = [&](const char* kind, const char* one, const char* many) {
+        auto found = unevaluated.find(kind);
+        if (found != unevaluated.end()) {
+            line += "; " + std::to_string(found->second) + " " + (found->second == 1 ? one : many);
+        }
+    };
+    note("unknown-element", "element not evaluated", "elements not evaluated");
+    note("unknown-attribute", "attribute ignored", "attributes ignored");
+    note("included-not-evaluated", "included section not evaluated", "included sections not evaluated");
+    note("no-sections", "policy without sections", "policies without sections");
+    line += ")";
+    if (report["switches"]["auditOnly"].get<bool>()) {
+        line += " [audit only]";
+    }
+    return line;
+}
+
+void printReport(const Json& report, std::ostream& out, const TextStyle& style)
+{
+    for (const Json& item : report["items"]) {
+        printItem(item, out, "", style);
+    }
+    printSwitches(report["switches"], out);
+    out << '\n' << verdictLine(report, style) << '\n';
+}
+
+}  // namespace tvpolicy::cli
