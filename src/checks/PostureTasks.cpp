@@ -160,43 +160,33 @@ TaskResponse* PostureTask::perform()
     return response;
 }
 
-bool parseOctalMode(const std::string& text, unsigned& mode)
+namespace {
+
+// A number of at most five digits below `base`, from `low` to `high`.
+bool parseBounded(const std::string& text, unsigned base, unsigned low, unsigned high, unsigned& number)
 {
     if (text.empty() || text.size() > 5) {
         return false;
     }
     unsigned value = 0;
     for (char c : text) {
-        if (c < '0' || c > '7') {
+        if (c < '0' || static_cast<unsigned>(c - '0') >= base) {
             return false;
         }
-        value = value * 8 + static_cast<unsigned>(c - '0');
+        value = value * base + static_cast<unsigned>(c - '0');
     }
-    if (value > 07777) {
+    if (value < low || value > high) {
         return false;
     }
-    mode = value;
+    number = value;
     return true;
 }
 
-bool parsePort(const std::string& text, unsigned& port)
-{
-    if (text.empty() || text.size() > 5) {
-        return false;
-    }
-    unsigned value = 0;
-    for (char c : text) {
-        if (c < '0' || c > '9') {
-            return false;
-        }
-        value = value * 10 + static_cast<unsigned>(c - '0');
-    }
-    if (value < 1 || value > 65535) {
-        return false;
-    }
-    port = value;
-    return true;
-}
+}  // namespace
+
+bool parseOctalMode(const std::string& text, unsigned& mode) { return parseBounded(text, 8, 0, 07777, mode); }
+
+bool parsePort(const std::string& text, unsigned& port) { return parseBounded(text, 10, 1, 65535, port); }
 
 }  // namespace checks
 
