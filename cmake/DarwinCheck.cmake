@@ -16,7 +16,8 @@ if(TVPOLICY_DARWIN_CHECK)
   file(GLOB _darwin_headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/host/probe/darwin/*.h")
   file(GLOB _shared_sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/host/probe/*.cpp")
   file(GLOB _shared_headers CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/host/probe/*.h"
-    "${PROJECT_SOURCE_DIR}/include/tvpolicy/host/*.h")
+    "${PROJECT_SOURCE_DIR}/include/tvpolicy/host/*.h" "${PROJECT_SOURCE_DIR}/include/tvpolicy/base/*.h"
+    "${PROJECT_SOURCE_DIR}/src/base/*.h")
   if(NOT _darwin_sources)
     message(FATAL_ERROR "TVPOLICY_DARWIN_CHECK: no sources in src/host/probe/darwin/")
   endif()

@@ -1,27 +1,11 @@
 #include <tvpolicy/agent/ParseErrorHandler.h>
 
-#include <iostream>
+#include "xml/ProblemLog.h"
 
-#include <tvpolicy/host/Timestamp.h>
+using tvpolicy::xml::logParseProblem;
 
-#include "xml/DomText.h"
+void ParseErrorHandler::warning(const xercesc::SAXParseException& problem) { logParseProblem(problem); }
 
-using namespace xercesc;
+void ParseErrorHandler::error(const xercesc::SAXParseException& problem) { logParseProblem(problem); }
 
-namespace {
-
-// No blank between the line number and "Column: ": the log format is kept as it always was.
-void logProblem(const SAXParseException& problem)
-{
-    tvi::tslog(std::clog) << tvpolicy::xml::nativeText(problem.getMessage()) << " Line: "
-                          << problem.getLineNumber() << "Column: " << problem.getColumnNumber()
-                          << std::endl;
-}
-
-}  // namespace
-
-void ParseErrorHandler::warning(const SAXParseException& problem) { logProblem(problem); }
-
-void ParseErrorHandler::error(const SAXParseException& problem) { logProblem(problem); }
-
-void ParseErrorHandler::fatalError(const SAXParseException& problem) { logProblem(problem); }
+void ParseErrorHandler::fatalError(const xercesc::SAXParseException& problem) { logParseProblem(problem); }

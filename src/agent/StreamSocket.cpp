@@ -16,7 +16,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 
 namespace com::torvane {
 

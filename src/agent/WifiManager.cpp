@@ -11,7 +11,9 @@
 #include <unistd.h>
 
 #include <tvpolicy/host/NetworkProbe.h>
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
+
+#include "host/CurrentWifi.h"
 
 namespace {
 
@@ -32,10 +34,10 @@ std::string utf8(const std::wstring& text)
         if (c < 0 || c > 0x10FFFF || U_IS_SURROGATE(c)) {
             c = 0xFFFD;
         }
-        char bytes[U8_MAX_LENGTH];
+        std::uint8_t bytes[U8_MAX_LENGTH];
         std::int32_t length = 0;
         U8_APPEND_UNSAFE(bytes, length, c);
-        out.append(bytes, static_cast<std::size_t>(length));
+        out.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
     }
     return out;
 }
@@ -91,22 +93,13 @@ bool offers(const NetworkProbe::WifiNetwork& network, int mode)
     return std::find(network.securityModes.begin(), network.securityModes.end(), mode) != network.securityModes.end();
 }
 
-std::optional<NetworkProbe::WifiStatus> wifiInterface(const char* operation)
-{
-    std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentNetwork().wifiStatus();
-    if (!status) {
-        log() << operation << ": no Wi-Fi interface" << std::endl;
-    }
-    return status;
-}
-
 // Scans for `ssid` and associates with the first network found, a bounded number of times,
 // until the interface is on it. True when it is, or ends, on the network.
 bool join(const std::string& ssid, const std::string& password, const JoinTexts& texts, const char* operation)
 {
     NetworkProbe& network = tvpolicy::currentNetwork();
     try {
-        std::optional<NetworkProbe::WifiStatus> status = wifiInterface(operation);
+        std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentWifiStatus(operation);
         if (!status) {
             return false;
         }
@@ -177,13 +170,13 @@ std::wstring WifiManager::getCurrentProfileName() const { return wide(getCurrent
 
 std::string WifiManager::getCurrentProfileNameUtf8() const
 {
-    std::optional<NetworkProbe::WifiStatus> status = wifiInterface("getCurrentProfileName");
+    std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentWifiStatus("getCurrentProfileName");
     return status ? status->ssid : std::string();
 }
 
 std::string WifiManager::getCurrentBSSID() const
 {
-    std::optional<NetworkProbe::WifiStatus> status = wifiInterface("getCurrentBSSID");
+    std::optional<NetworkProbe::WifiStatus> status = tvpolicy::currentWifiStatus("getCurrentBSSID");
     return status ? status->bssid : std::string();
 }
 
@@ -229,7 +222,7 @@ bool WifiManager::createModifyProfile(WifiConfigurationProfile& profile) const
     // settings; an equal stored profile only ends the storing part.
     NetworkProbe& network = tvpolicy::currentNetwork();
     try {
-        if (!wifiInterface("CreateModifyProfile")) {
+        if (!tvpolicy::currentWifiStatus("CreateModifyProfile")) {
             return false;
         }
         std::vector<NetworkProbe::WifiSettings> stored = network.wifiStoredProfiles();

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <vector>
 
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include <tvpolicy/host/HostProbe.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 #include "checks/DirectoryStream.h"
 

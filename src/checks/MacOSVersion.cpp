@@ -3,7 +3,7 @@
 #include <vector>
 
 #include <tvpolicy/checks/DelimVersion.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 namespace tvpolicy {
 

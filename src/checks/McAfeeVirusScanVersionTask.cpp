@@ -5,7 +5,7 @@
 #include <vector>
 
 #include <tvpolicy/host/HostProbe.h>
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 

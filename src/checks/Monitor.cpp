@@ -11,14 +11,14 @@
 #include <xercesc/dom/DOMNamedNodeMap.hpp>
 #include <xercesc/dom/DOMNodeList.hpp>
 
-#include <tvpolicy/agent/ParseErrorHandler.h>
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/policy/Task.h>
 #include <tvpolicy/policy/TaskFactory.h>
 #include <tvpolicy/policy/TaskResponse.h>
 
 #include "xml/DomReader.h"
 #include "xml/DomText.h"
+#include "xml/ProblemLog.h"
 #include "xml/XmlText.h"
 
 namespace com::torvane::policy {
@@ -30,7 +30,7 @@ namespace {
 
 tvpolicy::xml::DocumentPtr parseMonitorDocument(const std::string& text)
 {
-    ParseErrorHandler errors;
+    tvpolicy::xml::LoggingErrorHandler errors;
     return tvpolicy::xml::parseDocument(text, {"loginfile", false}, errors);
 }
 

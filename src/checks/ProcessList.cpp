@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include <tvpolicy/host/HostProbe.h>
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 
 namespace com::torvane::api {
 

@@ -1,31 +1,21 @@
 #include <tvpolicy/host/EventProbe.h>
 
-#include <atomic>
+#include "host/ProbeSlot.h"
 
 namespace tvpolicy {
 
 namespace {
-
-std::atomic<EventProbe*>& current()
-{
-    static std::atomic<EventProbe*> probe{nullptr};
-    return probe;
-}
-
+using Slot = ProbeSlot<EventProbe, &systemEvents>;
 }  // namespace
 
 EventProbe::~EventProbe() = default;
 EventProbe::AddressWatch::~AddressWatch() = default;
 EventProbe::PowerWatch::~PowerWatch() = default;
 
-EventProbe& currentEvents()
-{
-    EventProbe* probe = current().load(std::memory_order_acquire);
-    return probe != nullptr ? *probe : systemEvents();
-}
+EventProbe& currentEvents() { return Slot::current(); }
 
-ScopedEvents::ScopedEvents(EventProbe& probe) : previous_(current().exchange(&probe, std::memory_order_acq_rel)) {}
+ScopedEvents::ScopedEvents(EventProbe& probe) : previous_(Slot::swapIn(probe)) {}
 
-ScopedEvents::~ScopedEvents() { current().store(previous_, std::memory_order_release); }
+ScopedEvents::~ScopedEvents() { Slot::restore(previous_); }
 
 }  // namespace tvpolicy

@@ -10,8 +10,8 @@
 
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/NetworkProbe.h>
-#include <tvpolicy/host/Timestamp.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/base/Utilities.h>
 
 #include "host/parse/GuestTools.h"
 

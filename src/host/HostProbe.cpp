@@ -1,31 +1,21 @@
 #include <tvpolicy/host/HostProbe.h>
 
-#include <atomic>
+#include "host/ProbeSlot.h"
 
 namespace tvpolicy {
 
 namespace {
-
-std::atomic<HostProbe*>& current()
-{
-    static std::atomic<HostProbe*> probe{nullptr};
-    return probe;
-}
-
+using Slot = ProbeSlot<HostProbe, &systemHost>;
 }  // namespace
 
 HostProbe::~HostProbe() = default;
 
 HostProbe::ApplicationListing HostProbe::applicationListing() const { return {}; }
 
-HostProbe& currentHost()
-{
-    HostProbe* probe = current().load(std::memory_order_acquire);
-    return probe != nullptr ? *probe : systemHost();
-}
+HostProbe& currentHost() { return Slot::current(); }
 
-ScopedHost::ScopedHost(HostProbe& probe) : previous_(current().exchange(&probe, std::memory_order_acq_rel)) {}
+ScopedHost::ScopedHost(HostProbe& probe) : previous_(Slot::swapIn(probe)) {}
 
-ScopedHost::~ScopedHost() { current().store(previous_, std::memory_order_release); }
+ScopedHost::~ScopedHost() { Slot::restore(previous_); }
 
 }  // namespace tvpolicy

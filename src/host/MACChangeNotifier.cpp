@@ -6,10 +6,10 @@
 #include <unordered_set>
 
 #include <tvpolicy/host/NetworkInterface.h>
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 
 #include "host/NotifierSlots.h"
-#include "host/StopLatch.h"
+#include "base/StopLatch.h"
 
 namespace com::torvane::api {
 

@@ -7,8 +7,8 @@
 
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/NetworkInterface.h>
-#include <tvpolicy/host/Timestamp.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/base/Utilities.h>
 
 namespace {
 

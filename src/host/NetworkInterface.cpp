@@ -7,10 +7,11 @@
 #include <optional>
 #include <sstream>
 
-#include <tvpolicy/agent/WifiManager.h>
 #include <tvpolicy/host/NetworkProbe.h>
-#include <tvpolicy/host/Timestamp.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/base/Utilities.h>
+
+#include "host/CurrentWifi.h"
 
 namespace com::torvane::api {
 
@@ -84,9 +85,11 @@ std::optional<NetworkProbe::Hardware> admittedHardware(const NetworkProbe& netwo
 
 void setWifiNetwork(NetworkInterface& interface)
 {
-    WifiManager wifi;
-    interface.setESSID(wifi.getCurrentProfileNameUtf8());
-    std::string bssid = wifi.getCurrentBSSID();
+    // Each read as the Wi-Fi manager reads it, with the same log line when there is no interface.
+    std::optional<NetworkProbe::WifiStatus> network = tvpolicy::currentWifiStatus("getCurrentProfileName");
+    interface.setESSID(network ? network->ssid : std::string());
+    network = tvpolicy::currentWifiStatus("getCurrentBSSID");
+    std::string bssid = network ? network->bssid : std::string();
     if (bssid.empty()) {
         bssid = getBSSIDFromAirport();
         tvi::tslog(std::clog) << "bssid from airport " << bssid << std::endl;

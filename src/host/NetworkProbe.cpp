@@ -1,33 +1,21 @@
 #include <tvpolicy/host/NetworkProbe.h>
 
-#include <atomic>
+#include "host/ProbeSlot.h"
 
 namespace tvpolicy {
 
 namespace {
-
-std::atomic<NetworkProbe*>& current()
-{
-    static std::atomic<NetworkProbe*> probe{nullptr};
-    return probe;
-}
-
+using Slot = ProbeSlot<NetworkProbe, &systemNetwork>;
 }  // namespace
 
 NetworkProbe::~NetworkProbe() = default;
 
 bool NetworkProbe::renewAddressAuthorized(const std::string& name, const void*) { return renewAddress(name); }
 
-NetworkProbe& currentNetwork()
-{
-    NetworkProbe* probe = current().load(std::memory_order_acquire);
-    return probe != nullptr ? *probe : systemNetwork();
-}
+NetworkProbe& currentNetwork() { return Slot::current(); }
 
-ScopedNetwork::ScopedNetwork(NetworkProbe& probe) : previous_(current().exchange(&probe, std::memory_order_acq_rel))
-{
-}
+ScopedNetwork::ScopedNetwork(NetworkProbe& probe) : previous_(Slot::swapIn(probe)) {}
 
-ScopedNetwork::~ScopedNetwork() { current().store(previous_, std::memory_order_release); }
+ScopedNetwork::~ScopedNetwork() { Slot::restore(previous_); }
 
 }  // namespace tvpolicy

@@ -4,8 +4,8 @@
 #include <iostream>
 #include <memory>
 
-#include <tvpolicy/host/Timestamp.h>
-#include <tvpolicy/policy/Signal.h>
+#include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/base/Signal.h>
 
 namespace tvpolicy {
 

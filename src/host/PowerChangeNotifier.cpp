@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 
 #include "host/NotifierSlots.h"
-#include "host/StopLatch.h"
+#include "base/StopLatch.h"
 
 namespace tvi {
 

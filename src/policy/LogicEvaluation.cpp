@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 #include <tvpolicy/policy/TaskFactory.h>
 #include <tvpolicy/policy/andTask.h>
 #include <tvpolicy/policy/notTask.h>

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include <tvpolicy/host/Timestamp.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/base/Utilities.h>
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 

@@ -9,8 +9,8 @@
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
-#include <tvpolicy/host/Timestamp.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/base/Utilities.h>
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Section.h>
 

@@ -12,7 +12,7 @@
 #include <xercesc/util/XMLException.hpp>
 
 #include <tvpolicy/host/Machine.h>
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Task.h>
 #include <tvpolicy/policy/TaskCatalog.h>

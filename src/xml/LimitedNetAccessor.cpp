@@ -6,7 +6,7 @@
 #include <xercesc/util/XMLNetAccessor.hpp>
 #include <xercesc/util/XMLURL.hpp>
 
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 
 #include "xml/LimitedFetch.h"
 #include "xml/XmlText.h"

@@ -93,6 +93,6 @@ INSTANTIATE_TEST_SUITE_P(Descriptions, MalformedHostTest, testing::Values(
     MalformedCase{"PidNotANumber", R"({"os": {}, "processes": [{"name": "a", "pid": "1"}]})", "'processes[0].pid' must be an integer"},
     MalformedCase{"RootMissing", R"({"os": {}, "root": "no-such-folder"})", "field 'root': "},
     MalformedCase{"CommandsNotAnObject", R"({"os": {}, "commands": ["ls"]})", "field 'commands' must be an object"}),
-    [](const testing::TestParamInfo<MalformedCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<MalformedCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Policies, LintFlawTest, testing::Values(
              "only-with-groups", 2, "type ONLY and has groups"},
     LintCase{"TooManySections", manySections(1000), "too-many-sections", 0, "1000 sections"},
     LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"}),
-    [](const testing::TestParamInfo<LintCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<LintCase>& testCase) { return testCase.param.title; });
 
 // An include is reported, and one that is not http(s) twice: it would end the run.
 TEST(LintCommand, IncludesAreReportedNotFetched)

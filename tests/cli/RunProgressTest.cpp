@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(Terminals, RunOnTerminalTest, testing::Values(
     TerminalCase{"NoColorVariable", 80, "TERM=xterm NO_COLOR=1", {}, {"FAIL ("}, {"\033[3"}},
     TerminalCase{"NoColorFlag", 80, "TERM=xterm", {"--no-color"}, {"FAIL ("}, {"\033[3"}},
     TerminalCase{"Quiet", 80, "TERM=xterm", {"-q"}, {"FAIL"}, {"1/3", "\033[K"}}),
-    [](const testing::TestParamInfo<TerminalCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<TerminalCase>& testCase) { return testCase.param.title; });
 
 // Ctrl-C in the middle of a run erases the bar before the program ends.
 TEST(RunOnTerminal, InterruptErasesTheBar)

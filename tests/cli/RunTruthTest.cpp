@@ -89,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(Inputs, FlawedInputTest, testing::Values(
                {"cannot read the included section at http://127.0.0.1:9/section.xml: "}},
     FlawedCase{"IncludeNotWeb", "<policy name=\"p\">\n<include id=\"local\" url=\"file:///etc/passwd\"/>\n</policy>\n", "", {},
                3, {"cannot read the included section at file:///etc/passwd: only http and https addresses are read"}}),
-    [](const testing::TestParamInfo<FlawedCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<FlawedCase>& testCase) { return testCase.param.title; });
 
 // Without --strict the run goes on, and every way of saying the result says what was not evaluated.
 TEST(RunTruth, UnevaluatedElementsAreNamedInEveryOutput)
@@ -233,6 +233,6 @@ TEST_P(WriteFailureTest, IsExitTwoWithAMessage)
 INSTANTIATE_TEST_SUITE_P(Outputs, WriteFailureTest, testing::Values(
     WriteFailureCase{"FullDisk", ">/dev/full", "tvpolicy run: cannot write to standard output: No space left on device"},
     WriteFailureCase{"ClosedStdout", ">&-", "tvpolicy run: cannot write to standard output: it is closed"}),
-    [](const testing::TestParamInfo<WriteFailureCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<WriteFailureCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

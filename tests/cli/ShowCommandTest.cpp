@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Documents, ShowRefusesTest, testing::Values(
                 "is not an agent document: no element is in the namespace urn:torvane:agent:1 (its root element is <html>)"},
     RefusedCase{"OtherNamespace", "status", "<agentStatus xmlns=\"urn:other\"><status>SUCCESS</status></agentStatus>",
                 "is not an agent document"}),
-    [](const testing::TestParamInfo<RefusedCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<RefusedCase>& testCase) { return testCase.param.title; });
 
 // "-" reads the document from standard input.
 TEST(ShowCommand, ReadsStandardInput)

@@ -23,5 +23,6 @@ LD_LIBRARY_PATH="$libdir" "$work/pkgconfig-consumer" | tee "$work/pkgconfig.out"
 
 grep -q '^encoded: a%26b$' "$work/cmake.out"
 grep -q '^encoded: a%26b$' "$work/pkgconfig.out"
+grep -q '^policy: passed$' "$work/cmake.out"
 cmp "$work/cmake.out" "$work/pkgconfig.out"
 echo "consumer: both builds ran"

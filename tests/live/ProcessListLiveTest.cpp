@@ -27,7 +27,10 @@ class ProcessListLiveTest : public testing::Test {
 protected:
     void SetUp() override
     {
-        name = "tvpolicy-live-sleeper-" + std::to_string(::getpid());
+        // The kernel keeps 15 characters of a name, and the tests run side by side in
+        // processes of their own: what tells one test's sleeper from another's comes first.
+        static int started = 0;
+        name = "p" + std::to_string(::getpid()) + "-" + std::to_string(started++) + "-tvpolicy-live-sleeper";
         ASSERT_GT(name.size(), 15u);
         path = dir.path() / name;
         std::filesystem::copy_file("/bin/sleep", path);

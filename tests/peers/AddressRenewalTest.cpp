@@ -146,6 +146,6 @@ TEST_P(RenewalFallback, NetworkctlIsAskedAndItsAnswerReported)
 }
 
 INSTANTIATE_TEST_SUITE_P(Renewal, RenewalFallback, testing::ValuesIn(fallbacks),
-                         [](const testing::TestParamInfo<Fallback>& info) { return info.param.name; });
+                         [](const testing::TestParamInfo<Fallback>& testCase) { return testCase.param.name; });
 
 }  // namespace

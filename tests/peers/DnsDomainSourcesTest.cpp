@@ -174,7 +174,7 @@ TEST_P(DomainScenario, SuffixAndSearchDomainsComeFromTheFirstSourceThatNamesAny)
 }
 
 INSTANTIATE_TEST_SUITE_P(Sources, DomainScenario, testing::ValuesIn(scenarios),
-                         [](const testing::TestParamInfo<Scenario>& info) { return info.param.name; });
+                         [](const testing::TestParamInfo<Scenario>& testCase) { return testCase.param.name; });
 
 TEST_F(DomainSources, ResolvedThatNeverAnswersPassesToTheLeaseAfterTheCallTimeOut)
 {

@@ -118,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(Paths, FetchDocumentTest, testing::Values(
     FetchCase{"FileScheme", "file:///etc/hostname", false, 0, ""},
     FetchCase{"FtpScheme", "ftp://127.0.0.1/x", false, 0, ""},
     FetchCase{"GopherScheme", "gopher://127.0.0.1/", false, 0, ""}),
-    [](const testing::TestParamInfo<FetchCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<FetchCase>& testCase) { return testCase.param.title; });
 
 std::unique_ptr<xercesc::SAX2XMLReader> newReader()
 {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include <tvpolicy/host/FakeNetwork.h>
+#include "support/FakeNetwork.h"
 
 namespace testing_support {
 
@@ -33,7 +33,7 @@ public:
         net.links[name] = {up, 0};
     }
 
-    tvpolicy::FakeNetwork net;
+    testing_support::FakeNetwork net;
 
 private:
     tvpolicy::ScopedNetwork scoped_;

@@ -1,8 +1,8 @@
 // The notifiers' rules against described sources: the period floor and change rule of the MAC
 // notifier, the IP notifier's log line, payload and end conditions, the power notifier's
 // states, log lines and acknowledgements, and stop() from other threads.
-#include <tvpolicy/host/FakeEvents.h>
-#include <tvpolicy/host/FakeNetwork.h>
+#include "support/FakeEvents.h"
+#include "support/FakeNetwork.h"
 #include <tvpolicy/host/IPChangeNotifier.h>
 #include <tvpolicy/host/MACChangeNotifier.h>
 #include <tvpolicy/host/PowerChangeNotifier.h>
@@ -24,7 +24,7 @@ using com::torvane::api::MACChangeNotifier;
 using testing_support::CaptureStream;
 using testing_support::logMessages;
 using tvpolicy::EventProbe;
-using tvpolicy::FakeEvents;
+using testing_support::FakeEvents;
 using tvpolicy::NetworkProbe;
 using Strings = std::vector<std::string>;
 
@@ -34,7 +34,7 @@ NetworkProbe::AddressEntry linkEntry(const std::string& name) { return {name, up
 
 // A network whose interface list is read from a script, one inventory after another (the last
 // one stays).
-class ScriptedNetwork : public tvpolicy::FakeNetwork {
+class ScriptedNetwork : public testing_support::FakeNetwork {
 public:
     explicit ScriptedNetwork(std::vector<Strings> script) : script_(std::move(script))
     {
@@ -143,7 +143,7 @@ protected:
         };
     }
 
-    tvpolicy::FakeNetwork network;
+    testing_support::FakeNetwork network;
     FakeEvents events;
     tvpolicy::ScopedNetwork scopedNetwork;
     tvpolicy::ScopedEvents scopedEvents;

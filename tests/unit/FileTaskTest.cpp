@@ -114,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Attributes, FileTaskRules, testing::Values(
     FileCase{"DateThenVersion", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2099-1-1"},
                                  {"version", "0.0.0.1"}},
              false, "FileTask/Too Old: 2011-03-15FileTask/File Version: 0.0.0.0"}),
-    [](const testing::TestParamInfo<FileCase>& info) { return info.param.name; });
+    [](const testing::TestParamInfo<FileCase>& testCase) { return testCase.param.name; });
 
 TEST(FileTask, ExecuteNeverStartsTheFile)
 {

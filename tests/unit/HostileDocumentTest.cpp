@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Limits, DocumentLimitTest, testing::Values(
     LimitCase{"one attribute more", withAttributes(tvpolicy::xml::maxAttributesPerElement + 1), false, true},
     // Expansion stops at the limit; what was read before the fatal error stays.
     LimitCase{"billion laughs", billionLaughs(), true, true}),
-    [](const auto& info) { std::string n = info.param.name; for (char& ch : n) if (!isalnum(ch)) ch = '_'; return n; });
+    [](const auto& testCase) { std::string n = testCase.param.name; for (char& ch : n) if (!isalnum(ch)) ch = '_'; return n; });
 
 TEST(HostileDocument, ReadersFallBackToTheirDefaults)
 {

@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(Trees, DeepNestingTest, testing::Values(
     DeepCase{"Or", "or", 200000, "<true/>"},
     DeepCase{"Not", "not", 200000, "<false/>"},
     DeepCase{"UnknownElements", "x", 200000, ""}),
-    [](const testing::TestParamInfo<DeepCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<DeepCase>& testCase) { return testCase.param.title; });
 
 TEST(HostilePolicy, NestingWithinTheBoundIsEvaluated)
 {

@@ -284,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(Chains, DeepChainTest, testing::Values(
     DeepChainCase{"orTask", "trueTask", true, ""},
     // An even number of inversions.
     DeepChainCase{"notTask", "falseTask", false, "notTask/"}),
-    [](const testing::TestParamInfo<DeepChainCase>& info) { return info.param.kind + "Over" + info.param.leaf; });
+    [](const testing::TestParamInfo<DeepChainCase>& testCase) { return testCase.param.kind + "Over" + testCase.param.leaf; });
 
 // Levels of every kind, each and/or with a sibling before the deeper level that leaves the
 // outcome to it (true in an and, false in an or): only the inversions count.

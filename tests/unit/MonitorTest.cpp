@@ -74,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(Monitors, MonitorStatusTest, testing::Values(
     MonitorCase{"unknown and text skipped", "<Monitor id='m'>text<!-- c --><Bogus x='1'><false/></Bogus><true/></Monitor>", true},
     MonitorCase{"a check keeps no terms", "<Monitor id='m'><ProcessExists procName='sshd'><false/></ProcessExists></Monitor>", true},
     MonitorCase{"names are exact", "<Monitor id='m'><True/><FALSE/></Monitor>", false}),
-    [](const auto& info) { std::string n = info.param.name; for (char& c : n) if (!isalnum(c)) c = '_'; return n; });
+    [](const auto& testCase) { std::string n = testCase.param.name; for (char& c : n) if (!isalnum(c)) c = '_'; return n; });
 
 TEST(Monitor, CollectsMonitorElementsAtAnyDepthInOrder)
 {

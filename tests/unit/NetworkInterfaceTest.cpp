@@ -136,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(Rules, Admission, testing::Values(
         d.wired("eth1", "00:1B:63:00:00:07", true);
         d.net.failingLookups["eth0"] = 1000;
     }, {"00:1B:63:00:00:07"}, {"Skipping interface 'eth0'", "Skipping interface 'eth0'", "Skipping interface 'eth0'"}}),
-    [](const testing::TestParamInfo<AdmissionCase>& info) { return "case" + std::to_string(info.index); });
+    [](const testing::TestParamInfo<AdmissionCase>& testCase) { return "case" + std::to_string(testCase.index); });
 
 TEST(NetworkInventory, AnUnreadableListLeavesTheMapAlone)
 {

@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(Encodings, PolicyEncodingTest, testing::Values(
     EncodingCase{"Utf16WithAnOddByteAtTheEnd", wide(document, 2, true, true) + "\x3e"},
     EncodingCase{"Utf32LittleEndianWithMark", wide(document, 4, false, true)},
     EncodingCase{"Utf32BigEndianWithMark", wide(document, 4, true, true)}),
-    [](const testing::TestParamInfo<EncodingCase>& info) { return info.param.name; });
+    [](const testing::TestParamInfo<EncodingCase>& testCase) { return testCase.param.name; });
 
 // A greater-than byte inside a wide character is not the end of the markup: U+3E3C in UTF-16LE
 // is the bytes 3C 3E.

@@ -140,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Documents, PolicyParseTest, testing::Values(
                   EXPECT_EQ(p.getSections()["002h"]->getHelp(), "");
                   EXPECT_EQ(p.getExtraInformation(), "after=text");  // the reader came back to the policy
               }}),
-    [](const testing::TestParamInfo<ParseCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<ParseCase>& testCase) { return testCase.param.title; });
 
 struct FatalCase {
     std::string title;
@@ -171,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(Documents, PolicyFatalTest, testing::Values(
     FatalCase{"MismatchedTag", "<policy>\n<section name=\"a\">\n</policy>", true,
               "A configuration error has occurred at line: 3", "Error,  "},
     FatalCase{"QuietWithoutShowErrors", "<policy>\n<broken", false, "", ""}),
-    [](const testing::TestParamInfo<FatalCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<FatalCase>& testCase) { return testCase.param.title; });
 
 TEST(PolicyParse, ItemsBuiltBeforeAFatalErrorStay)
 {

@@ -149,7 +149,7 @@ INSTANTIATE_TEST_SUITE_P(Policies, PolicyRunTest, testing::Values(
     RunCase{"WarningsMakeAFailedOptionStatusFive",
             "<option name=\"o\">" + section("P", "primary=\"true\" group=\"g\" severity=\"warning\"", fail) + "</option>",
             false, {"P", ""}, "o=5[P=5]", {}, 1}),
-    [](const testing::TestParamInfo<RunCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<RunCase>& testCase) { return testCase.param.title; });
 
 TEST(PolicyRun, AKeptAnnouncementOutlivesTheRun)
 {

@@ -187,7 +187,7 @@ INSTANTIATE_TEST_SUITE_P(Documents, DocumentCheckTest, testing::Values(
     DocumentCase{"Empty", "", false, "", 0},
     DocumentCase{"CutShort", "<agentStatus xmlns=\"urn:torvane:agent:1\"><status>", false, "agentStatus", 2},
     DocumentCase{"Binary", std::string("\0\x01<\xff", 4), false, "", 0}),
-    [](const testing::TestParamInfo<DocumentCase>& info) { return info.param.title; });
+    [](const testing::TestParamInfo<DocumentCase>& testCase) { return testCase.param.title; });
 
 // An include that cannot be read ends the process; an embedder's handler learns why first and
 // may end it its own way.

@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, Join, testing::Values(
     JoinCase{"enterprise, third attempt", "Other", {enterprise}, 3, true, 3, true, {"Current SSID 2 = Other"}},
     JoinCase{"WPA enterprise", "Other", {wpaEnterprise}, 1, true, 1, true, {}},
     JoinCase{"never joins", "Other", {personal}, 0, false, 3, false, {}}),
-    [](const testing::TestParamInfo<JoinCase>& info) { return "case" + std::to_string(info.index); });
+    [](const testing::TestParamInfo<JoinCase>& testCase) { return "case" + std::to_string(testCase.index); });
 
 TEST(WifiManager, NoInterfaceGivesFalseAtOnce)
 {

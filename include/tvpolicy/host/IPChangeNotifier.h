@@ -5,7 +5,7 @@
 #include <vector>
 
 #include <tvpolicy/export.h>
-#include <tvpolicy/policy/Signal.h>
+#include <tvpolicy/base/Signal.h>
 
 namespace tvpolicy {
 class StopLatch;

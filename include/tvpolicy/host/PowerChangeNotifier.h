@@ -7,7 +7,7 @@
 
 #include <tvpolicy/export.h>
 #include <tvpolicy/host/EventProbe.h>
-#include <tvpolicy/policy/Signal.h>
+#include <tvpolicy/base/Signal.h>
 
 namespace tvpolicy {
 class StopLatch;

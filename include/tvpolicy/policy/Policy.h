@@ -15,7 +15,7 @@
 
 #include <tvpolicy/export.h>
 #include <tvpolicy/policy/TaskSource.h>
-#include <tvpolicy/policy/Signal.h>
+#include <tvpolicy/base/Signal.h>
 
 class Option;
 class Section;

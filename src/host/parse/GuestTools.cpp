@@ -3,7 +3,7 @@
 #include <map>
 #include <set>
 
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 namespace tvpolicy::parse {
 

@@ -3,7 +3,7 @@
 #include <cctype>
 #include <cstdio>
 
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 namespace tvpolicy::parse {
 

@@ -80,16 +80,17 @@ struct Walk {
         }
     }
 
-    void version(const tvpolicy::TaskSource& source, const std::string& name, const std::string& delimiters, bool needed)
+    void version(const tvpolicy::TaskSource& source, const std::string& attributeName, const std::string& delimiters,
+                 bool needed)
     {
         bool present = false;
-        std::string text = attribute(source, name, present);
+        std::string text = attribute(source, attributeName, present);
         if (!present && !needed) {
             return;
         }
         std::string problem = versionProblem(text, delimiters);
         if (!problem.empty()) {
-            add(source, name + " '" + text + "' " + problem);
+            add(source, attributeName + " '" + text + "' " + problem);
         }
     }
 

@@ -76,7 +76,7 @@ Function entry(const char* name)
 }  // namespace
 
 // The real function, looked up once per function on its first call.
-#define TVPOLICY_REAL(name) static const auto real = entry<decltype(&name)>(#name)
+#define TVPOLICY_REAL(name) static const auto real = entry<decltype(&(name))>(#name)
 
 extern "C" {
 

@@ -19,7 +19,7 @@
 #include <SystemConfiguration/SCSchemaDefinitions.h>
 
 #include "host/parse/DnsMessage.h"
-#include "host/probe/OwnedFd.h"
+#include "base/OwnedFd.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {
@@ -47,7 +47,7 @@ private:
     DNSServiceRef ref_ = nullptr;
 };
 
-using Socket = tvpolicy::probe::OwnedFd;
+using Socket = tvpolicy::OwnedFd;
 
 void DNSSD_API gather(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType error, const char*,
                       uint16_t type, uint16_t recordClass, uint16_t length, const void* data, uint32_t ttl,

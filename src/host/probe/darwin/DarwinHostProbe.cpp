@@ -8,12 +8,12 @@
 #include <libproc.h>
 #include <sys/param.h>
 #include <sys/utsname.h>
+#include <unistd.h>
 
 #include <IOKit/IOKitLib.h>
 
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
-#include "checks/MacOSVersion.h"
 #include "host/probe/darwin/DarwinApplications.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
@@ -40,17 +40,6 @@ std::optional<std::string> platformProperty(io_registry_entry_t root, const char
         return std::nullopt;
     }
     return darwin::registryText(value.get());
-}
-
-std::string withoutNewlines(std::string text)
-{
-    std::string out;
-    for (char c : text) {
-        if (c != '\n') {
-            out += c;
-        }
-    }
-    return out;
 }
 
 }  // namespace
@@ -148,8 +137,14 @@ std::vector<HostProbe::ProcessEntry> DarwinHostProbe::processTable() const
 
 std::string DarwinHostProbe::dnsFlushCommand() const
 {
-    // dscacheutil from 10.5 on, lookupd on 10.4, nothing before.
-    return macOSDnsFlushCommand(withoutNewlines(osProductVersion()));
+    // The resolver-cache tool this release ships: dscacheutil from 10.5 on, lookupd on 10.4,
+    // none before. Which one applies is read from the system itself, not from its version.
+    for (const char* tool : {"/usr/bin/dscacheutil", "/usr/bin/lookupd"}) {
+        if (::access(tool, X_OK) == 0) {
+            return std::string(tool) + " -flushcache";
+        }
+    }
+    return std::string();
 }
 
 std::string DarwinHostProbe::commandOutput(const std::string& command, unsigned long bufferSize)

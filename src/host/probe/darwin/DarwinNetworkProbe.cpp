@@ -27,11 +27,11 @@
 #include <SystemConfiguration/SCPreferences.h>
 #include <SystemConfiguration/SCSchemaDefinitions.h>
 
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 #include "host/parse/MacHardware.h"
 #include "host/probe/InterfaceAddressList.h"
-#include "host/probe/OwnedFd.h"
+#include "base/OwnedFd.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {
@@ -44,7 +44,7 @@ namespace {
 using darwin::CFHolder;
 using darwin::IOHolder;
 
-using Socket = tvpolicy::probe::OwnedFd;
+using Socket = tvpolicy::OwnedFd;
 
 CFHolder<SCDynamicStoreRef> dynamicStore()
 {

@@ -17,7 +17,7 @@
 #include <sys/socket.h>
 
 #include "host/parse/NetlinkMessages.h"
-#include "host/probe/OwnedFd.h"
+#include "base/OwnedFd.h"
 #include "host/probe/linux/SdBus.h"
 
 // The address-message parser is OS-neutral and carries the kernel's numbers itself.
@@ -30,7 +30,6 @@ namespace tvpolicy {
 
 namespace {
 
-using probe::OwnedFd;
 using Clock = std::chrono::steady_clock;
 
 // Room for a burst of address messages (an interface coming up with many addresses) before
@@ -177,7 +176,7 @@ private:
 
     OwnedFd socket_;
     OwnedFd wake_;
-    std::vector<unsigned char> buffer_ = std::vector<unsigned char>(64 * 1024);
+    std::vector<unsigned char> buffer_ = std::vector<unsigned char>(std::size_t{64} * 1024);
 };
 
 struct SlotUnref {

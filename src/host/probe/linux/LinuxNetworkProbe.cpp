@@ -13,19 +13,19 @@
 #include <unistd.h>
 
 #include <tvpolicy/host/HostProbe.h>
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 #include "host/parse/NetText.h"
 #include "host/parse/ProcText.h"
 #include "host/probe/InterfaceAddressList.h"
-#include "host/probe/OwnedFd.h"
+#include "base/OwnedFd.h"
 #include "host/probe/linux/NetworkManager.h"
 
 namespace tvpolicy {
 
 namespace {
 
-using Fd = tvpolicy::probe::OwnedFd;
+using Fd = tvpolicy::OwnedFd;
 
 // Reads a small sysfs attribute below `dir`; false (with errno) when it cannot be read.
 bool readAttribute(int dir, const char* name, std::string& text)

@@ -5,15 +5,14 @@
 #include <string>
 #include <vector>
 
-#include <tvpolicy/export.h>
 #include <tvpolicy/host/EventProbe.h>
 
-namespace tvpolicy {
+namespace testing_support {
 
 /// A described event source: the caller queues address changes and power messages, and every
 /// acknowledgement is recorded. Used with ScopedEvents to run the notifiers against exact
 /// events. Queuing and reading back are safe from any thread while a notifier runs.
-class TVPOLICY_API FakeEvents : public EventProbe {
+class FakeEvents : public tvpolicy::EventProbe {
 public:
     FakeEvents();
     ~FakeEvents() override;
@@ -47,4 +46,4 @@ private:
     std::shared_ptr<Queue> queue_;
 };
 
-}  // namespace tvpolicy
+}  // namespace testing_support

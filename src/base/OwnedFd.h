@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-namespace tvpolicy::probe {
+namespace tvpolicy {
 
 /// One file descriptor (POSIX, so every backend's), closed when the object ends or is reset.
 class OwnedFd {
@@ -27,4 +27,4 @@ private:
     int fd_ = -1;
 };
 
-}  // namespace tvpolicy::probe
+}  // namespace tvpolicy

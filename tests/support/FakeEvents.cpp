@@ -1,9 +1,11 @@
-#include <tvpolicy/host/FakeEvents.h>
+#include "support/FakeEvents.h"
 
 #include <condition_variable>
 #include <mutex>
 
-namespace tvpolicy {
+namespace testing_support {
+
+using tvpolicy::EventProbe;
 
 struct FakeEvents::Queue {
     std::mutex mutex;
@@ -155,4 +157,4 @@ std::unique_ptr<EventProbe::PowerWatch> FakeEvents::watchPower(std::string& erro
     return std::make_unique<FakePowerWatch>(queue_);
 }
 
-}  // namespace tvpolicy
+}  // namespace testing_support

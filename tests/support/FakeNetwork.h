@@ -5,16 +5,15 @@
 #include <string>
 #include <vector>
 
-#include <tvpolicy/export.h>
 #include <tvpolicy/host/NetworkProbe.h>
 
-namespace tvpolicy {
+namespace testing_support {
 
 /// A described network: interfaces, DNS domains, command outputs and a Wi-Fi interface are
 /// plain fields that the caller sets; renewals, commands, association attempts and stored
 /// profiles are recorded. Used with ScopedNetwork to run the inventory and the Wi-Fi manager
 /// against exact facts.
-class TVPOLICY_API FakeNetwork : public NetworkProbe {
+class FakeNetwork : public tvpolicy::NetworkProbe {
 public:
     /// The interface address list; empty means the list cannot be read.
     std::optional<std::vector<AddressEntry>> addresses = std::vector<AddressEntry>();
@@ -70,4 +69,4 @@ public:
     bool wifiStoreProfile(const WifiSettings& settings, std::string& error) override;
 };
 
-}  // namespace tvpolicy
+}  // namespace testing_support

@@ -1,6 +1,8 @@
-#include <tvpolicy/host/FakeNetwork.h>
+#include "support/FakeNetwork.h"
 
-namespace tvpolicy {
+namespace testing_support {
+
+using tvpolicy::NetworkProbe;
 
 std::optional<std::vector<NetworkProbe::AddressEntry>> FakeNetwork::interfaceAddresses() const { return addresses; }
 
@@ -80,4 +82,4 @@ bool FakeNetwork::wifiStoreProfile(const WifiSettings& settings, std::string& er
     return true;
 }
 
-}  // namespace tvpolicy
+}  // namespace testing_support

@@ -1,4 +1,4 @@
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 
 #include <ctime>
 #include <iostream>

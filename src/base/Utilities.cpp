@@ -1,4 +1,4 @@
-#include <tvpolicy/host/Utilities.h>
+#include <tvpolicy/base/Utilities.h>
 
 #include <array>
 #include <utility>
@@ -7,7 +7,7 @@
 #include <iostream>
 #include <memory>
 
-#include <tvpolicy/host/Timestamp.h>
+#include <tvpolicy/base/Timestamp.h>
 
 namespace {
 
