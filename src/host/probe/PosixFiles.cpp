@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "host/AccountNames.h"
-#include "host/probe/OwnedFd.h"
+#include "base/OwnedFd.h"
 
 namespace tvpolicy::probe {
 

@@ -98,15 +98,15 @@ struct Walk {
     void posture(const tvpolicy::TaskSource& source)
     {
         std::string kind = source.element + "Task";
-        for (const std::string& name : tvpolicy::requiredPostureAttributes(kind)) {
+        for (const std::string& required : tvpolicy::requiredPostureAttributes(kind)) {
             bool present = false;
-            attribute(source, name, present);
+            attribute(source, required, present);
             if (!present) {
-                add(source, "the attribute " + name + " is missing");
+                add(source, "the attribute " + required + " is missing");
             }
         }
-        for (const auto& [name, value] : source.attributes) {
-            std::string problem = tvpolicy::postureAttributeProblem(kind, name, value);
+        for (const auto& [key, value] : source.attributes) {
+            std::string problem = tvpolicy::postureAttributeProblem(kind, key, value);
             if (!problem.empty()) {
                 add(source, problem);
             }

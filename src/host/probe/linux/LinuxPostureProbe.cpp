@@ -22,7 +22,7 @@
 #include "host/parse/NftRuleset.h"
 #include "host/parse/ProcText.h"
 #include "host/parse/SockDiag.h"
-#include "host/probe/OwnedFd.h"
+#include "base/OwnedFd.h"
 #include "host/probe/PosixFiles.h"
 #include "host/probe/linux/SdBus.h"
 
@@ -60,7 +60,7 @@ std::optional<std::string> unitPath(linux_bus::SystemBus& bus, const std::string
 bool dumpSockets(int family, int protocol, std::uint32_t states, std::vector<parse::DiagSocket>& sockets,
                  std::string& error)
 {
-    probe::OwnedFd fd(::socket(AF_NETLINK, SOCK_DGRAM | SOCK_CLOEXEC, NETLINK_SOCK_DIAG));
+    OwnedFd fd(::socket(AF_NETLINK, SOCK_DGRAM | SOCK_CLOEXEC, NETLINK_SOCK_DIAG));
     if (!fd.valid()) {
         error = std::string("socket diagnostics: ") + std::strerror(errno);
         return false;
