@@ -35,3 +35,6 @@ else()
   pkg_check_modules(SYSTEMD REQUIRED IMPORTED_TARGET libsystemd)
   set(TVPOLICY_PLATFORM_LIBS PkgConfig::SYSTEMD resolv)
 endif()
+# PCRE2 matches file content for the posture checks, on every system.
+pkg_check_modules(PCRE2 REQUIRED IMPORTED_TARGET libpcre2-8)
+list(APPEND TVPOLICY_PLATFORM_LIBS PkgConfig::PCRE2)

@@ -13,6 +13,8 @@
 #include <tvpolicy/agent/BasicHttpRequest.h>
 #include <tvpolicy/checks/CommandGate.h>
 #include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/Machine.h>
+#include <tvpolicy/host/PostureProbe.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 
@@ -173,6 +175,7 @@ int runPolicy(const RunOptions& options, Console& console)
         return exitUsage;
     }
     tvpolicy::ScopedHost scope(described->host());
+    tvpolicy::ScopedPosture posture(described->posture());
     return evaluate(options, console);
 }
 

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <map>
 
+#include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/checks/VersionEvidence.h>
 #include <tvpolicy/host/Machine.h>
 #include <tvpolicy/policy/Option.h>
@@ -73,6 +74,11 @@ void describeTask(Section& section, Task& task, Json& entry)
             entry["version"] = {{"found", trimmed(version->lastFoundVersion())},
                                 {"required", version->lastRequiredVersion()},
                                 {"operation", version->lastOperation()}};
+        }
+    }
+    if (const auto* posture = dynamic_cast<const tvpolicy::PostureEvidence*>(&task)) {
+        if (!posture->lastFinding().empty()) {
+            entry["found"] = posture->lastFinding();
         }
     }
     std::vector<Task*> terms = termsOf(task);
@@ -297,7 +303,9 @@ std::string checkLabel(const Json& task)
 std::string comparedVersions(const Json& task)
 {
     if (!task.contains("version")) {
-        return "";
+        // A posture check's finding, unless it is the message shown already.
+        std::string found = task.value("found", "");
+        return found == task.value("message", "") ? "" : found;
     }
     const Json& version = task["version"];
     std::string operation = version["operation"].get<std::string>();

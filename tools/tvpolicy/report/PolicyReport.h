@@ -44,7 +44,8 @@ std::string verdictLine(const nlohmann::ordered_json& report, const TextStyle& s
 /// (File fileName="passwd" startPath="/etc").
 std::string checkLabel(const nlohmann::ordered_json& task);
 
-/// What a version check compared (found "2.4.1", required gte "3.0"); empty for other checks.
+/// What a version check compared (found "2.4.1", required gte "3.0"), or what a posture check
+/// found when its message does not say it already; empty for other checks.
 std::string comparedVersions(const nlohmann::ordered_json& task);
 
 /// The words for a section status number.
