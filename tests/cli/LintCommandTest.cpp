@@ -79,7 +79,17 @@ INSTANTIATE_TEST_SUITE_P(Policies, LintFlawTest, testing::Values(
              "<true/></section>\n</option>\n</policy>\n",
              "only-with-groups", 2, "type ONLY and has groups"},
     LintCase{"TooManySections", manySections(1000), "too-many-sections", 0, "1000 sections"},
-    LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"}),
+    LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"},
+    LintCase{"PostureRequiredMissing", inSection("<true/>\n<FileContent path=\"/etc/hosts\"/>"), "check-attribute", 4,
+             "the attribute pattern is missing"},
+    LintCase{"ModeNotOctal", inSection("<FileMode path=\"/etc/shadow\" maxMode=\"0698\"/>"), "check-attribute", 3,
+             "maxMode is not an octal mode: 0698"},
+    LintCase{"PatternDoesNotCompile", inSection("<FileContent path=\"/etc/hosts\" pattern=\"(a|b\"/>"),
+             "check-attribute", 3, "pattern does not compile: missing closing parenthesis"},
+    LintCase{"PortOutOfRange", inSection("<not><PortListening port=\"70000\"/></not>"), "check-attribute", 3,
+             "port is not a number from 1 to 65535: 70000"},
+    LintCase{"UnknownProtocol", inSection("<PortListening port=\"53\" protocol=\"sctp\"/>"), "check-attribute", 3,
+             "protocol is not tcp or udp: sctp"}),
     [](const testing::TestParamInfo<LintCase>& testCase) { return testCase.param.title; });
 
 // An include is reported, and one that is not http(s) twice: it would end the run.
