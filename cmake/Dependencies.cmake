@@ -26,6 +26,7 @@ find_library(TVPOLICY_NETTLE_STATIC NAMES libnettle.a)
 find_package(ICU REQUIRED COMPONENTS uc)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json 3 CONFIG REQUIRED)
+find_package(tomlplusplus 3 CONFIG REQUIRED)
 # The operating system's own libraries, used by the host probe's backend only.
 if(APPLE)
   set(TVPOLICY_PLATFORM_LIBS "-framework CoreFoundation" "-framework IOKit" "-framework SystemConfiguration"
@@ -34,3 +35,6 @@ else()
   pkg_check_modules(SYSTEMD REQUIRED IMPORTED_TARGET libsystemd)
   set(TVPOLICY_PLATFORM_LIBS PkgConfig::SYSTEMD resolv)
 endif()
+# PCRE2 matches file content for the posture checks, on every system.
+pkg_check_modules(PCRE2 REQUIRED IMPORTED_TARGET libpcre2-8)
+list(APPEND TVPOLICY_PLATFORM_LIBS PkgConfig::PCRE2)

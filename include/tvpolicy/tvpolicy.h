@@ -57,6 +57,7 @@
 #include <tvpolicy/checks/McAfeeVirusScanVersionTask.h>
 #include <tvpolicy/checks/Monitor.h>
 #include <tvpolicy/checks/MonitorResponse.h>
+#include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/checks/ProcessExistsTask.h>
 #include <tvpolicy/checks/ProcessList.h>
 #include <tvpolicy/checks/VersionCheckTask.h>
@@ -74,6 +75,7 @@
 #include <tvpolicy/host/NetworkInterface.h>
 #include <tvpolicy/host/NetworkInterfaceXML.h>
 #include <tvpolicy/host/NetworkProbe.h>
+#include <tvpolicy/host/PostureProbe.h>
 #include <tvpolicy/host/PowerChangeNotifier.h>
 #include <tvpolicy/host/Timestamp.h>
 #include <tvpolicy/host/Utilities.h>

@@ -39,6 +39,11 @@ std::size_t capOf(const HttpBounds& bounds)
     return bounds.enabled ? bounds.maxBodyBytes : static_cast<std::size_t>(-1);
 }
 
+extern "C" int endWhenCancelled(void* flag, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
+{
+    return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0;
+}
+
 // The limits go on after the operation's own options; libcurl's defaults stay when they are off.
 // Signals are never used for time-outs, whatever the bounds.
 void applyBounds(CURL* handle, const HttpBounds& bounds)
@@ -54,6 +59,15 @@ void applyBounds(CURL* handle, const HttpBounds& bounds)
     curl_easy_setopt(handle, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(bounds.maxBodyBytes));
     curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, bounds.protocols.c_str());
     curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, bounds.protocols.c_str());
+    if (!bounds.caFile.empty()) {
+        curl_easy_setopt(handle, CURLOPT_CAINFO, bounds.caFile.c_str());
+        curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
+    }
+    if (bounds.cancel != nullptr) {
+        curl_easy_setopt(handle, CURLOPT_XFERINFOFUNCTION, &endWhenCancelled);
+        curl_easy_setopt(handle, CURLOPT_XFERINFODATA, const_cast<std::atomic<bool>*>(bounds.cancel));
+        curl_easy_setopt(handle, CURLOPT_NOPROGRESS, 0L);
+    }
 }
 
 // A file written within the body cap, for getBinary when the bounds are on.
@@ -81,7 +95,7 @@ struct FileCloser {
 
 HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::string& url,
                                         const std::string& postFields, const std::string& cookie,
-                                        const std::string& path)
+                                        const std::string& path, const std::string& contentType)
 {
     using Op = HttpOperation;
     HttpBounds bounds = currentBounds();
@@ -123,6 +137,13 @@ HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::stri
         curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
     }
     CurlList headerList(curl_slist_append(nullptr, agentHeader.c_str()));
+    if (operation == Op::post && !contentType.empty()) {
+        std::string header = "Content-Type: " + contentType;
+        curl_slist* longer = curl_slist_append(headerList.get(), header.c_str());
+        if (!headerList) {
+            headerList.reset(longer);  // appending to an existing list keeps its head
+        }
+    }
     bool sendsAgentHeader = operation == Op::post || operation == Op::download;
     curl_easy_setopt(handle, CURLOPT_HTTPHEADER, sendsAgentHeader ? headerList.get() : nullptr);
     curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);

@@ -1,5 +1,6 @@
 #include <tvpolicy/checks/VersionFromScriptTask.h>
 
+#include <tvpolicy/checks/CommandGate.h>
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
@@ -18,6 +19,18 @@ std::string VersionFromScriptTask::getType() { return "VersionFromScriptTask"; }
 void VersionFromScriptTask::setOwnAttribute(const Attribute& attribute)
 {
     tvpolicy::checks::assignAttribute(attribute, {{"script", &script_}});
+}
+
+TaskResponse* VersionFromScriptTask::perform()
+{
+    std::string refusal = script_.empty() ? std::string() : tvpolicy::commandRefusal(script_);
+    if (refusal.empty()) {
+        return VersionCheckTask::perform();
+    }
+    auto* response = new TaskResponse(-1);
+    response->message = std::move(refusal);
+    passed_ = false;
+    return response;
 }
 
 std::string VersionFromScriptTask::foundVersion()

@@ -92,7 +92,17 @@ INSTANTIATE_TEST_SUITE_P(Policies, LintFlawTest, testing::Values(
              "stand-alone-warning", 2, "it still fails the policy"},
     LintCase{"StandAloneSkip", inSection("<and skip=\"true\"><true/></and>"), "stand-alone-skip", 2,
              "a skipped stand-alone section fails the policy"},
-    LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"}),
+    LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"},
+    LintCase{"PostureRequiredMissing", inSection("<true/>\n<FileContent path=\"/etc/hosts\"/>"), "check-attribute", 4,
+             "the attribute pattern is missing"},
+    LintCase{"ModeNotOctal", inSection("<FileMode path=\"/etc/shadow\" maxMode=\"0698\"/>"), "check-attribute", 3,
+             "maxMode is not an octal mode: 0698"},
+    LintCase{"PatternDoesNotCompile", inSection("<FileContent path=\"/etc/hosts\" pattern=\"(a|b\"/>"),
+             "check-attribute", 3, "pattern does not compile: missing closing parenthesis"},
+    LintCase{"PortOutOfRange", inSection("<not><PortListening port=\"70000\"/></not>"), "check-attribute", 3,
+             "port is not a number from 1 to 65535: 70000"},
+    LintCase{"UnknownProtocol", inSection("<PortListening port=\"53\" protocol=\"sctp\"/>"), "check-attribute", 3,
+             "protocol is not tcp or udp: sctp"}),
     [](const testing::TestParamInfo<LintCase>& testCase) { return testCase.param.title; });
 
 // An include is reported, and one that is not http(s) twice: it would end the run.

@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/version.h>
 
 #include "commands/Command.h"
@@ -15,6 +16,9 @@ namespace cli = tvpolicy::cli;
 
 int main(int argc, char** argv)
 {
+    // Policies for Linux fleets use the posture checks; the CLI knows them all.
+    tvpolicy::registerPostureTasks();
+
     CLI::App app{"tvpolicy - prove that this computer complies with a network-access policy"};
     app.name("tvpolicy");
     app.set_version_flag("--version", std::string("tvpolicy ") + TVPOLICY_VERSION);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <map>
 #include <string>
@@ -20,6 +21,9 @@ struct TVPOLICY_API HttpBounds {
     long lowSpeedSeconds = 15;              ///< ... for this long is ended
     std::size_t maxBodyBytes = 64u << 20;   ///< body (and, apart, headers) larger than this end the transfer
     std::string protocols = "http,https";   ///< the schemes a URL may use (libcurl's list form)
+    std::string caFile;                     ///< trust the CAs of this PEM file instead of the system's
+    /// When set, a transfer in flight ends (within a fraction of a second) once it turns true.
+    const std::atomic<bool>* cancel = nullptr;
 };
 
 /// The four requests of BasicHttpRequest.
@@ -76,8 +80,10 @@ public:
     /// The request that get (HttpOperation::get), post2 (post), test (head) or getBinary
     /// (download, into `path`) makes, with the same options, returning everything libcurl
     /// reported. For tools that need the status and error of any of them.
+    /// A post with `contentType` sends that Content-Type instead of libcurl's form type.
     static HttpTransfer transfer(HttpOperation operation, const std::string& url, const std::string& postFields,
-                                 const std::string& cookie, const std::string& path);
+                                 const std::string& cookie, const std::string& path,
+                                 const std::string& contentType = std::string());
 
     /// Turns the bounds on or off for every later operation of the process. Not meant to race
     /// with transfers in flight: those keep the bounds they started with.

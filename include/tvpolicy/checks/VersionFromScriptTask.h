@@ -9,11 +9,15 @@
 /// (all of it, read through a 256-byte buffer, trailing newline included) with "required".
 /// Without a command the version is "0".
 ///
+/// A script that the process's command gate refuses is not run: the check fails with the
+/// gate's reason as its message.
+///
 /// Attributes: "required", "script", "delim", "operation".
 class TVPOLICY_API VersionFromScriptTask : public VersionCheckTask {
 public:
     static Task* create();
     std::string getType() override;
+    TaskResponse* perform() override;
 
     static bool dummy;
 

@@ -132,7 +132,7 @@ std::vector<InstalledApplication> packagesFromDpkgStatus(const std::string& stat
         if (!architecture.empty() && (field(stanza, "Multi-Arch") == "same" || foreign)) {
             name += ":" + architecture;
         }
-        packages.push_back({name, field(stanza, "Version")});
+        packages.push_back({name, field(stanza, "Version"), field(stanza, "Status")});
     }
     return packages;
 }

@@ -10,6 +10,9 @@ namespace tvpolicy::parse {
 struct InstalledApplication {
     std::string name;
     std::string version;
+    /// The package database's status of the package ("install ok installed"); empty where the
+    /// source has none.
+    std::string status = {};
 };
 
 /// The applications of the system profiler's XML output (a root array of data-type

@@ -40,7 +40,7 @@ int lint(const LintOptions& options, Console& console)
     std::string bytes;
     std::vector<Notice> findings;
     std::vector<Notice> notes;
-    std::string name;
+    std::string policyName;
     // A monitor document is linted as what it is; anything else must be a policy.
     DocumentRead input = readDocument(options.source, defaultMaxDocumentMB << 20);
     MonitorScan monitors = input.ok ? scanMonitors(input.text) : MonitorScan{};
@@ -54,11 +54,11 @@ int lint(const LintOptions& options, Console& console)
         }
         findings = lintFindings(*policy, bytes);
         notes = lintNotes(*policy);
-        name = policy->getName();
+        policyName = policy->getName();
     }
     if (options.json) {
         Json report = {{"source", options.source},
-                       {"policy", name},
+                       {"policy", policyName},
                        {"clean", findings.empty()},
                        {"findings", listOf(findings)},
                        {"notes", listOf(notes)}};

@@ -11,14 +11,14 @@
 #include <vector>
 
 #include <nlohmann/json.hpp>
-#include <xercesc/sax2/SAX2XMLReader.hpp>
-#include <xercesc/sax2/XMLReaderFactory.hpp>
 
+#include <tvpolicy/agent/BasicHttpRequest.h>
+#include <tvpolicy/checks/CommandGate.h>
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/Machine.h>
+#include <tvpolicy/host/PostureProbe.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
-#include <tvpolicy/version.h>
 
 #include "commands/Command.h"
 #include "policy/DescribedHost.h"
@@ -54,25 +54,47 @@ struct RunOptions {
     std::string junitReport;
     std::string hostDescription;
     std::size_t maxSizeMB = defaultMaxDocumentMB;
+    bool allowScripts = false;
 };
 
-// Sections built from an address (`include`) are read before the run, here as an agent would.
-void readIncludes(Policy& policy, Console& console, bool quiet)
+bool isAddress(const std::string& source)
 {
-    std::unique_ptr<xercesc::SAX2XMLReader> reader;
-    for (auto& [key, item] : policy.getSections()) {
-        bool option = item->getType() == "Option";
-        if (!option && item->getUrl().empty()) {
-            continue;
-        }
-        if (!reader) {
-            reader.reset(xercesc::XMLReaderFactory::createXMLReader());
-        }
-        if (!option && !quiet) {
-            console.err() << "reading included section '" << key << "' from " << item->getUrl() << '\n' << std::flush;
-        }
-        item->parse(reader.get());
+    return source.rfind("http://", 0) == 0 || source.rfind("https://", 0) == 0;
+}
+
+// A policy fetched from a server, with the bounds of every transfer of this program. Its
+// commands run only when asked for: the policy comes from elsewhere.
+std::unique_ptr<Policy> fetchPolicy(const RunOptions& options, Console& console, std::string& bytes, int& status)
+{
+    using com::torvane::BasicHttpRequest;
+    com::torvane::HttpBounds bounds;
+    bounds.enabled = true;
+    bounds.maxBodyBytes = options.maxSizeMB << 20;
+    BasicHttpRequest::setBounds(bounds);
+    com::torvane::HttpTransfer fetched =
+        BasicHttpRequest::transfer(com::torvane::HttpOperation::get, options.source, "", "", "");
+    if (!fetched.completed || fetched.responseCode != 200) {
+        console.err() << "tvpolicy run: " << options.source << ": "
+                      << (fetched.error.empty() ? "the server answered " + std::to_string(fetched.responseCode)
+                                                : fetched.error)
+                      << '\n';
+        status = exitUnfetched;
+        return nullptr;
     }
+    std::string error;
+    std::unique_ptr<Policy> policy = parsePolicy(fetched.contents, options.source, error);
+    if (!policy) {
+        console.err() << "tvpolicy run: " << error << '\n';
+        status = exitUsage;
+        return nullptr;
+    }
+    if (!options.allowScripts) {
+        setCommandGate([](const std::string& command) {
+            return "the command '" + command + "' was not run: the policy was fetched, and --allow-scripts was not given";
+        });
+    }
+    bytes = std::move(fetched.contents);
+    return policy;
 }
 
 std::vector<std::string> linesOf(const std::string& text)
@@ -83,16 +105,6 @@ std::vector<std::string> linesOf(const std::string& text)
         lines.push_back(line);
     }
     return lines;
-}
-
-std::string isoTime(std::chrono::system_clock::time_point when)
-{
-    std::time_t seconds = std::chrono::system_clock::to_time_t(when);
-    std::tm utc{};
-    gmtime_r(&seconds, &utc);
-    char text[32];
-    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
-    return text;
 }
 
 // Where the results go and in which form: a file (atomically) or standard output.
@@ -189,6 +201,7 @@ int runPolicy(const RunOptions& options, Console& console)
         return exitUsage;
     }
     tvpolicy::ScopedHost scope(described->host());
+    tvpolicy::ScopedPosture posture(described->posture());
     return evaluate(options, console);
 }
 
@@ -199,9 +212,12 @@ int evaluate(const RunOptions& options, Console& console)
     bool errColour = colourWanted(console.errFd(), options.noColor);
 
     std::string bytes;
-    std::unique_ptr<Policy> policy = readPolicy(options.source, options.maxSizeMB << 20, "run", console, bytes);
+    int unread = exitUsage;
+    std::unique_ptr<Policy> policy = isAddress(options.source)
+                                         ? fetchPolicy(options, console, bytes, unread)
+                                         : readPolicy(options.source, options.maxSizeMB << 20, "run", console, bytes);
     if (!policy) {
-        return exitUsage;
+        return unread;
     }
 
     // An include that cannot be read ends the run, as it ends the agent; the CLI says why and
@@ -255,15 +271,7 @@ int evaluate(const RunOptions& options, Console& console)
     }
     Json report = reportPolicy(*policy, passed, progress.announced(), notices);
     report["exitStatus"] = status;
-    report["run"] = {{"tool", "tvpolicy"},
-                     {"toolVersion", TVPOLICY_VERSION},
-                     {"libraryVersion", tvpolicy::libraryVersion()},
-                     {"startTime", isoTime(started)},
-                     {"durationMs", std::chrono::duration_cast<std::chrono::milliseconds>(
-                                        std::chrono::steady_clock::now() - clock).count()},
-                     {"hostName", Machine::getHostName()},
-                     {"os", Machine::getOSString()},
-                     {"osVersion", Machine::getOSVersion()}};
+    report["run"] = runRecord(started, clock);
     report["source"] = {{"path", options.source}, {"bytes", bytes.size()}, {"sha256", sha256Hex(bytes)}};
     if (options.trace) {
         report["trace"] = linesOf(trace);
@@ -276,7 +284,10 @@ int evaluate(const RunOptions& options, Console& console)
 CommandAction setupRun(CLI::App& app)
 {
     auto options = std::make_shared<RunOptions>();
-    app.add_option("SOURCE", options->source, "The policy: a file, or - for standard input")->required();
+    app.add_option("SOURCE", options->source, "The policy: a file, - for standard input, or an http(s) address")
+        ->required();
+    app.add_flag("--allow-scripts", options->allowScripts,
+                 "Let a policy fetched from an address run the commands it names");
     app.add_flag("--json", options->json, "Print the results as one JSON document (same as --format json)");
     app.add_flag("--trace", options->trace, "Show the evaluation trace");
     app.add_flag("--strict", options->strict,
@@ -303,8 +314,8 @@ CommandAction setupRun(CLI::App& app)
 
 const bool registered = registerCommand(
     {"run",
-     "Evaluate a policy on this computer: exit 0 passed, 1 failed, 2 unreadable or refused, 3 an include could not "
-     "be fetched",
+     "Evaluate a policy on this computer: exit 0 passed, 1 failed, 2 unreadable or refused, 3 the policy or an "
+     "include could not be fetched",
      10, &setupRun});
 
 }  // namespace

@@ -21,7 +21,10 @@ extern "C" void requestStop(int)
     stopFlag = 1;
     if (wakeFd >= 0) {
         char byte = 1;
-        (void)::write(wakeFd, &byte, 1);
+        // A full pipe already holds a wake-up; nothing else can be done in a handler.
+        if (::write(wakeFd, &byte, 1) < 0) {
+            stopFlag = 1;
+        }
     }
     errno = saved;
 }

@@ -58,6 +58,129 @@ std::optional<std::string> optionalText(const Json& object, const std::string& n
     return text(object, name, where);
 }
 
+const Json& arrayField(const Json& document, const std::string& name)
+{
+    if (!document[name].is_array()) {
+        throw FieldError("field '" + name + "' must be an array");
+    }
+    return document[name];
+}
+
+bool flagField(const Json& object, const std::string& name, const std::string& where)
+{
+    if (!object.contains(name)) {
+        return false;
+    }
+    if (!object[name].is_boolean()) {
+        throw FieldError("field '" + where + name + "' must be true or false");
+    }
+    return object[name].get<bool>();
+}
+
+// Owner or group as a name or a number: a number is the id, a name stands with id 0 for
+// root and an id no account has otherwise.
+void account(const std::string& text, std::string& name, unsigned long& id)
+{
+    bool numeric = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos && text.size() < 10;
+    name = numeric ? "" : text;
+    id = numeric ? std::stoul(text) : text == "root" ? 0 : 4294967294ul;
+}
+
+// The posture facts: packages become a package database of dpkg's, the rest described facts.
+void describePosture(const Json& document, tvpolicy::FakeHost& host, tvpolicy::DescribedPosture& posture)
+{
+    if (document.contains("packages")) {
+        const Json& packages = arrayField(document, "packages");
+        host.applications.format = tvpolicy::HostProbe::ApplicationListing::Format::DpkgStatus;
+        for (std::size_t i = 0; i < packages.size(); ++i) {
+            std::string where = "packages[" + std::to_string(i) + "]";
+            onlyFields(packages[i], where, {"name", "version"});
+            std::string name = text(packages[i], "name", where + ".");
+            if (name.empty() || name.find_first_of(" \t\n") != std::string::npos) {
+                throw FieldError("field '" + where + ".name' must be a package name");
+            }
+            std::string version = text(packages[i], "version", where + ".");
+            host.applications.text += "Package: " + name + "\nStatus: install ok installed\nVersion: " + version + "\n\n";
+        }
+    }
+    if (document.contains("services")) {
+        const Json& services = arrayField(document, "services");
+        for (std::size_t i = 0; i < services.size(); ++i) {
+            std::string where = "services[" + std::to_string(i) + "]";
+            onlyFields(services[i], where, {"unit", "active", "enabled"});
+            std::string unit = text(services[i], "unit", where + ".");
+            if (unit.empty()) {
+                throw FieldError("field '" + where + ".unit' is missing");
+            }
+            posture.units[unit.find('.') == std::string::npos ? unit + ".service" : unit] = {
+                flagField(services[i], "active", where + ".") ? "active" : "inactive",
+                flagField(services[i], "enabled", where + ".") ? "enabled" : "disabled"};
+        }
+    }
+    if (document.contains("listening")) {
+        const Json& listening = arrayField(document, "listening");
+        for (std::size_t i = 0; i < listening.size(); ++i) {
+            std::string where = "listening[" + std::to_string(i) + "]";
+            onlyFields(listening[i], where, {"port", "protocol"});
+            const Json& port = listening[i].contains("port") ? listening[i]["port"] : Json();
+            if (!port.is_number_integer() || port.get<long>() < 1 || port.get<long>() > 65535) {
+                throw FieldError("field '" + where + ".port' must be a number from 1 to 65535");
+            }
+            std::string protocol = listening[i].contains("protocol") ? text(listening[i], "protocol", where + ".") : "tcp";
+            if (protocol != "tcp" && protocol != "udp") {
+                throw FieldError("field '" + where + ".protocol' must be tcp or udp");
+            }
+            posture.listening.push_back({protocol, static_cast<unsigned>(port.get<long>()), false});
+        }
+    }
+    if (flagField(document, "firewall", "")) {
+        posture.filterChains.push_back({"inet", "filter", "input", "input", "drop", false});
+    }
+    std::set<std::string> encrypted;
+    if (document.contains("encryptedMounts")) {
+        for (const Json& mount : arrayField(document, "encryptedMounts")) {
+            if (!mount.is_string() || mount.get<std::string>().empty()) {
+                throw FieldError("field 'encryptedMounts' must hold mount points");
+            }
+            encrypted.insert(mount.get<std::string>());
+        }
+    }
+    // The root file system is always mounted; it is plain unless listed.
+    posture.addMount("/", encrypted.count("/") != 0);
+    for (const std::string& mount : encrypted) {
+        if (mount != "/") {
+            posture.addMount(mount, true);
+        }
+    }
+    if (document.contains("kernelParameters")) {
+        if (!document["kernelParameters"].is_object()) {
+            throw FieldError("field 'kernelParameters' must be an object of name: value");
+        }
+        for (const auto& [name, value] : document["kernelParameters"].items()) {
+            posture.kernelParameters[name] = text(document["kernelParameters"], name, "kernelParameters.") + "\n";
+        }
+    }
+    if (document.contains("fileModes")) {
+        if (!document["fileModes"].is_object()) {
+            throw FieldError("field 'fileModes' must be an object of path: {owner, group, mode}");
+        }
+        for (const auto& [path, entry] : document["fileModes"].items()) {
+            std::string where = "fileModes." + path;
+            onlyFields(entry, where, {"owner", "group", "mode"});
+            tvpolicy::PostureProbe::FileStatus file;
+            account(text(entry, "owner", where + "."), file.owner, file.uid);
+            account(text(entry, "group", where + "."), file.group, file.gid);
+            std::string mode = text(entry, "mode", where + ".");
+            if (mode.empty() || mode.size() > 5 || mode.find_first_not_of("01234567") != std::string::npos ||
+                std::stoul(mode, nullptr, 8) > 07777) {
+                throw FieldError("field '" + where + ".mode' must be an octal mode such as 0640");
+            }
+            file.mode = static_cast<unsigned>(std::stoul(mode, nullptr, 8));
+            posture.files[path] = file;
+        }
+    }
+}
+
 }  // namespace
 
 std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std::string& error)
@@ -72,7 +195,8 @@ std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std:
     try {
         Json document = Json::parse(in);
         onlyFields(document, "", {"os", "hostName", "architecture", "hardware", "processes", "commands", "root",
-                                  "dnsFlushCommand"});
+                                  "dnsFlushCommand", "packages", "services", "listening", "firewall",
+                                  "encryptedMounts", "kernelParameters", "fileModes"});
         if (!document.contains("os")) {
             throw FieldError("field 'os' is missing (it gives the OS name and version)");
         }
@@ -121,6 +245,7 @@ std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std:
                 host.commandOutputs[command] = text(document["commands"], command, "commands.");
             }
         }
+        describePosture(document, host, described->posture_);
         std::string root;
         if (document.contains("root")) {
             std::filesystem::path folder = text(document, "root", "");

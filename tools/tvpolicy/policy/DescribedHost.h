@@ -4,6 +4,7 @@
 #include <string>
 
 #include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/PostureProbe.h>
 
 namespace tvpolicy::cli {
 
@@ -20,11 +21,15 @@ public:
     DescribedHost& operator=(const DescribedHost&) = delete;
 
     tvpolicy::FakeHost& host() { return host_; }
+    /// The posture facts (services, sockets, packet filter, mounts, kernel parameters, file
+    /// owners and modes), for tvpolicy::ScopedPosture.
+    tvpolicy::DescribedPosture& posture() { return posture_; }
 
 private:
     DescribedHost() = default;
 
     tvpolicy::FakeHost host_;
+    tvpolicy::DescribedPosture posture_;
     std::string emptyRoot_;  // made for a description without "root"; removed on destruction
 };
 

@@ -1,6 +1,12 @@
 #include "policy/PolicyInput.h"
 
 #include <algorithm>
+#include <sstream>
+
+#include <xercesc/sax2/SAX2XMLReader.hpp>
+#include <xercesc/sax2/XMLReaderFactory.hpp>
+
+#include <tvpolicy/policy/Section.h>
 
 namespace tvpolicy::cli {
 
@@ -27,6 +33,14 @@ std::string causeOf(const Policy& policy, const std::string& text)
     return cause;
 }
 
+// The library's words about a document that did not parse, without its advice about network
+// settings: the document was read, so that advice concerns nothing here.
+std::string libraryMessage(const Policy& policy)
+{
+    std::string message = withoutCarriageReturns(policy.getFatalErrorMsg());
+    return message.substr(0, message.find("\n\nPlease check your personal firewall"));
+}
+
 }  // namespace
 
 std::string sourceName(const std::string& source) { return source == "-" ? "standard input" : source; }
@@ -45,24 +59,54 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
         console.err() << prefix << input.error << '\n';
         return nullptr;
     }
-    std::unique_ptr<Policy> policy(Policy::parseFromString(input.text, true));
-    if (policy->getFatalParseError()) {
-        // The document is local: the real cause first, then the library's words without its
-        // advice about network settings, which concerns fetching, not a file.
-        std::string message = withoutCarriageReturns(policy->getFatalErrorMsg());
-        message = message.substr(0, message.find("\n\nPlease check your personal firewall"));
-        console.err() << prefix << sourceName(source) << ": "
-                      << (input.directory ? "is a directory" : causeOf(*policy, input.text)) << '\n'
-                      << prefix << message << '\n';
-        return nullptr;
+    std::string error;
+    std::unique_ptr<Policy> policy = input.directory ? nullptr : parsePolicy(input.text, sourceName(source), error);
+    if (input.directory) {
+        std::unique_ptr<Policy> empty(Policy::parseFromString(input.text, true));
+        error = sourceName(source) + ": is a directory\n" + libraryMessage(*empty);
     }
-    if (policy->getRootElement() != "policy") {
-        console.err() << prefix << sourceName(source) << " is not a policy: its root element is <"
-                      << policy->getRootElement() << ">, a policy's is <policy>\n";
+    if (!policy) {
+        std::istringstream lines(error);
+        for (std::string line; std::getline(lines, line);) {
+            console.err() << prefix << line << '\n';
+        }
         return nullptr;
     }
     bytes = std::move(input.text);
     return policy;
+}
+
+std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error)
+{
+    std::unique_ptr<Policy> policy(Policy::parseFromString(text, true));
+    if (policy->getFatalParseError()) {
+        error = name + ": " + causeOf(*policy, text) + '\n' + libraryMessage(*policy);
+        return nullptr;
+    }
+    if (policy->getRootElement() != "policy") {
+        error = name + " is not a policy: its root element is <" + policy->getRootElement() +
+                ">, a policy's is <policy>";
+        return nullptr;
+    }
+    return policy;
+}
+
+void readIncludes(Policy& policy, Console& console, bool quiet)
+{
+    std::unique_ptr<xercesc::SAX2XMLReader> reader;
+    for (auto& [key, item] : policy.getSections()) {
+        bool option = item->getType() == "Option";
+        if (!option && item->getUrl().empty()) {
+            continue;
+        }
+        if (!reader) {
+            reader.reset(xercesc::XMLReaderFactory::createXMLReader());
+        }
+        if (!option && !quiet) {
+            console.err() << "reading included section '" << key << "' from " << item->getUrl() << '\n' << std::flush;
+        }
+        item->parse(reader.get());
+    }
 }
 
 }  // namespace tvpolicy::cli

@@ -22,6 +22,14 @@ std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxByt
 std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& source, const std::string& command,
                                     Console& console, std::string& bytes);
 
+/// The same reading of a policy already in memory, named `name` in the messages: null with
+/// `error` set (one or two lines, no prefix) when it is not a policy.
+std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error);
+
+/// Reads the sections that the policy builds from an address (`include`) and its options
+/// before the run, telling `console` about each include unless `quiet`.
+void readIncludes(Policy& policy, Console& console, bool quiet = false);
+
 /// "standard input" for "-", else the path.
 std::string sourceName(const std::string& source);
 

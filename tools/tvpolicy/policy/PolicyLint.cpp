@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/host/Utilities.h>
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Policy.h>
@@ -93,6 +94,25 @@ struct Walk {
         }
     }
 
+    // A posture check: its required attributes, and values it could not use.
+    void posture(const tvpolicy::TaskSource& source)
+    {
+        std::string kind = source.element + "Task";
+        for (const std::string& required : tvpolicy::requiredPostureAttributes(kind)) {
+            bool present = false;
+            attribute(source, required, present);
+            if (!present) {
+                add(source, "the attribute " + required + " is missing");
+            }
+        }
+        for (const auto& [key, value] : source.attributes) {
+            std::string problem = tvpolicy::postureAttributeProblem(kind, key, value);
+            if (!problem.empty()) {
+                add(source, problem);
+            }
+        }
+    }
+
     void check(Task& task)
     {
         if (const tvpolicy::TaskSource* source = section.getTaskSource(&task)) {
@@ -119,6 +139,8 @@ struct Walk {
                         break;
                     }
                 }
+            } else {
+                posture(*source);
             }
         }
         for (Task* term : termsOf(task)) {

@@ -86,7 +86,9 @@ std::string termsHtml(const Json& task)
     }
     std::string html = "<ul>";
     for (const Json& term : task["terms"]) {
-        html += "<li><code>" + escapeHtml(checkLabel(term)) + "</code>" + termsHtml(term) + "</li>";
+        std::string found = comparedVersions(term);
+        html += "<li><code>" + escapeHtml(checkLabel(term)) + "</code>" + (found.empty() ? "" : " &ndash; " + escapeHtml(found)) +
+                termsHtml(term) + "</li>";
     }
     return html + "</ul>";
 }

@@ -17,6 +17,21 @@ using namespace xercesc;
 
 namespace {
 
+// What the nested checks of a failed check found, each as "; <check> - <finding>".
+void appendFindings(const nlohmann::ordered_json& task, std::string& line)
+{
+    if (!task.contains("terms")) {
+        return;
+    }
+    for (const auto& term : task["terms"]) {
+        std::string found = comparedVersions(term);
+        if (!found.empty()) {
+            line += "; " + checkLabel(term) + " - " + found;
+        }
+        appendFindings(term, line);
+    }
+}
+
 // UTF-16 text for the DOM, owned.
 class Wide {
 public:
@@ -134,6 +149,7 @@ void addCases(DOMDocument* document, DOMElement* suite, const Json& item, const 
         if (!task["message"].get<std::string>().empty()) {
             line += " - " + task["message"].get<std::string>();
         }
+        appendFindings(task, line);
         first = first.empty() ? line : first;
         details += line + "\n";
     }

@@ -2,16 +2,20 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ctime>
 #include <iterator>
 #include <map>
 
+#include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/checks/VersionEvidence.h>
+#include <tvpolicy/host/Machine.h>
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 #include <tvpolicy/policy/Task.h>
 #include <tvpolicy/policy/TaskResponse.h>
 #include <tvpolicy/policy/TaskSource.h>
+#include <tvpolicy/version.h>
 
 #include "policy/PolicyWalk.h"
 #include "io/TerminalText.h"
@@ -82,6 +86,11 @@ void describeTask(Section& section, Task& task, Json& entry)
         const Json& attributes = entry["attributes"];
         entry["cause"] = "no file named '" + attributes.value("fileName", std::string()) + "' found under " +
                          attributes.value("startPath", std::string());
+    }
+    if (const auto* posture = dynamic_cast<const tvpolicy::PostureEvidence*>(&task)) {
+        if (!posture->lastFinding().empty()) {
+            entry["found"] = posture->lastFinding();
+        }
     }
     std::vector<Task*> terms = termsOf(task);
     if (!terms.empty()) {
@@ -431,7 +440,9 @@ std::string asCompared(const std::string& text, const std::string& delimiters)
 std::string comparedVersions(const Json& task)
 {
     if (!task.contains("version")) {
-        return "";
+        // A posture check's finding, unless it is the message shown already.
+        std::string found = task.value("found", "");
+        return found == task.value("message", "") ? "" : found;
     }
     const Json& version = task["version"];
     std::string operation = version["operation"].get<std::string>();
@@ -530,6 +541,30 @@ void printReport(const Json& report, std::ostream& out, const TextStyle& style)
     }
     printSwitches(report["switches"], out);
     out << '\n' << verdictLine(report, style) << '\n';
+}
+
+std::string isoTime(std::chrono::system_clock::time_point when)
+{
+    std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+    std::tm utc{};
+    gmtime_r(&seconds, &utc);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
+    return text;
+}
+
+nlohmann::ordered_json runRecord(std::chrono::system_clock::time_point started,
+                                 std::chrono::steady_clock::time_point clock)
+{
+    return {{"tool", "tvpolicy"},
+            {"toolVersion", TVPOLICY_VERSION},
+            {"libraryVersion", tvpolicy::libraryVersion()},
+            {"startTime", isoTime(started)},
+            {"durationMs",
+             std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - clock).count()},
+            {"hostName", Machine::getHostName()},
+            {"os", Machine::getOSString()},
+            {"osVersion", Machine::getOSVersion()}};
 }
 
 }  // namespace tvpolicy::cli

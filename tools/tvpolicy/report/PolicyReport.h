@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -24,6 +25,14 @@ struct TextStyle {
     bool colour = false;
 };
 
+/// The "run" object of the results: this program and library, when the run started and how
+/// long it took (until now from `clock`), and the computer it ran on.
+nlohmann::ordered_json runRecord(std::chrono::system_clock::time_point started,
+                                 std::chrono::steady_clock::time_point clock);
+
+/// `when` as an ISO 8601 UTC time to the second ("2024-05-01T12:00:00Z").
+std::string isoTime(std::chrono::system_clock::time_point when);
+
 /// The same report for a person: one block per item, the switches, then PASS or FAIL with the
 /// counts and what was not evaluated.
 void printReport(const nlohmann::ordered_json& report, std::ostream& out, const TextStyle& style);
@@ -35,7 +44,8 @@ std::string verdictLine(const nlohmann::ordered_json& report, const TextStyle& s
 /// (File fileName="passwd" startPath="/etc").
 std::string checkLabel(const nlohmann::ordered_json& task);
 
-/// What a version check compared (found "2.4.1", required gte "3.0"); empty for other checks.
+/// What a version check compared (found "2.4.1", required gte "3.0"), or what a posture check
+/// found when its message does not say it already; empty for other checks.
 std::string comparedVersions(const nlohmann::ordered_json& task);
 
 /// The words for a section status number.

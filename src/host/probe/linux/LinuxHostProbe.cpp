@@ -18,6 +18,7 @@
 
 #include "host/parse/OsRelease.h"
 #include "host/parse/ProcText.h"
+#include "host/probe/PosixFiles.h"
 
 extern char** environ;
 
@@ -29,40 +30,7 @@ struct DirCloser {
     void operator()(DIR* dir) const { ::closedir(dir); }
 };
 
-// Reads at most `limit` bytes of the file at `path` (relative to `dirFd`) into `text`. False
-// when it cannot be opened or read, for instance because its process has just ended. A FIFO
-// or device put in a file's place gives what it has at once instead of blocking.
-bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text)
-{
-    int fd = ::openat(dirFd, path, O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-    if (fd < 0) {
-        return false;
-    }
-    struct Closer {
-        int fd;
-        ~Closer() { ::close(fd); }
-    } closer{fd};
-    text.clear();
-    char buffer[4096];
-    while (text.size() < limit) {
-        std::size_t want = std::min(sizeof buffer, limit - text.size());
-        ssize_t got = ::read(fd, buffer, want);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
-        if (got < 0 && errno == EAGAIN) {
-            break;
-        }
-        if (got < 0) {
-            return false;
-        }
-        if (got == 0) {
-            break;
-        }
-        text.append(buffer, static_cast<std::size_t>(got));
-    }
-    return true;
-}
+using probe::readAt;
 
 bool isPid(const char* name)
 {

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <atomic>
+#include <string>
+
+#include <tvpolicy/agent/BasicHttpRequest.h>
+
+#include "io/Console.h"
+#include "agent/AgentSettings.h"
+#include "agent/AgentState.h"
+
+namespace tvpolicy::cli::agent {
+
+/// How a cycle ended.
+enum class Outcome {
+    passed,        ///< the policy ran and passed (or only audits)
+    failed,        ///< the policy ran and failed
+    nothingToDo,   ///< the server said there is nothing to scan
+    unreached,     ///< no server answered
+    cycleFailed,   ///< a server answered, but the cycle could not be completed
+    authFailure,   ///< the server refused the login
+};
+
+struct CycleReport {
+    Outcome outcome = Outcome::unreached;
+    std::string scan;
+    std::string message;  ///< why it did not pass, or what the server said
+};
+
+/// One pass of the exchange with the server at `base` (ending in '/'): configuration,
+/// connection test, login or status, the policy, its run and the reports, then the results
+/// that earlier cycles could not deliver. Requests end early once `stop` turns true.
+class AgentCycle {
+public:
+    AgentCycle(const AgentSettings& settings, AgentState& state, Console& console, const std::atomic<bool>& stop);
+
+    CycleReport run(const std::string& base);
+
+private:
+    struct Answer;
+    Answer get(const std::string& url);
+    Answer remember(com::torvane::HttpTransfer transfer);
+    Answer post(const std::string& url, const std::string& body, const std::string& contentType = std::string());
+    std::string behind(const std::string& base, const std::string& url) const;
+    CycleReport scanAndReport(const std::string& url, const std::string& scan, const std::string& uid);
+    void deliverPending();
+
+    const AgentSettings& settings_;
+    AgentState& state_;
+    Console& console_;
+    const std::atomic<bool>& stop_;
+    std::string cookie_;
+};
+
+}  // namespace tvpolicy::cli::agent

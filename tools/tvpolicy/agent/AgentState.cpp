@@ -1,0 +1,104 @@
+#include "agent/AgentState.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <system_error>
+
+#include "report/ResultsFile.h"
+
+namespace tvpolicy::cli::agent {
+
+namespace fs = std::filesystem;
+using Json = nlohmann::ordered_json;
+
+namespace {
+
+std::string readWhole(const fs::path& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+}  // namespace
+
+AgentState::AgentState(std::string directory) : directory_(std::move(directory)) {}
+
+std::string AgentState::pendingDir() const { return (fs::path(directory_) / "pending").string(); }
+
+bool AgentState::prepare(std::string& error) const
+{
+    std::error_code failure;
+    fs::create_directories(pendingDir(), failure);
+    if (failure) {
+        error = "cannot create the state directory " + directory_ + ": " + failure.message();
+        return false;
+    }
+    fs::permissions(directory_, fs::perms::owner_all, fs::perm_options::replace, failure);
+    return true;
+}
+
+bool AgentState::queue(const std::string& url, const std::string& body, std::string& error)
+{
+    // Milliseconds since the epoch, then a sequence number: names sort in the order written.
+    auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
+                   std::chrono::system_clock::now().time_since_epoch()).count();
+    char name[48];
+    std::snprintf(name, sizeof name, "%015lld-%06u.json", static_cast<long long>(now), sequence_++ % 1000000);
+    Json entry = {{"url", url}, {"body", body}};
+    if (!writeFileAtomically((fs::path(pendingDir()) / name).string(), entry.dump(), error)) {
+        return false;
+    }
+    std::vector<PendingResults> waiting = pending();
+    for (std::size_t i = 0; i + maxPending < waiting.size(); ++i) {
+        forget(waiting[i].name);
+    }
+    return true;
+}
+
+std::vector<PendingResults> AgentState::pending() const
+{
+    std::vector<PendingResults> waiting;
+    std::error_code failure;
+    for (const fs::directory_entry& file : fs::directory_iterator(pendingDir(), failure)) {
+        std::string name = file.path().filename().string();
+        if (file.path().extension() != ".json" || name.front() == '.') {
+            continue;  // the temporary files of a write in progress
+        }
+        Json entry = Json::parse(readWhole(file.path()), nullptr, false);
+        if (entry.is_object() && entry["url"].is_string() && entry["body"].is_string()) {
+            waiting.push_back({name, entry["url"].get<std::string>(), entry["body"].get<std::string>()});
+        }
+    }
+    std::sort(waiting.begin(), waiting.end(),
+              [](const PendingResults& a, const PendingResults& b) { return a.name < b.name; });
+    return waiting;
+}
+
+void AgentState::forget(const std::string& name) const
+{
+    std::error_code ignored;
+    fs::remove(fs::path(pendingDir()) / name, ignored);
+}
+
+bool AgentState::saveVerdict(const Json& verdict, std::string& error) const
+{
+    return writeFileAtomically((fs::path(directory_) / "last-verdict.json").string(), verdict.dump(2) + '\n', error);
+}
+
+std::optional<Json> AgentState::lastVerdict() const
+{
+    std::string text = readWhole(fs::path(directory_) / "last-verdict.json");
+    Json verdict = Json::parse(text, nullptr, false);
+    if (verdict.is_discarded() || !verdict.is_object()) {
+        return std::nullopt;
+    }
+    return verdict;
+}
+
+}  // namespace tvpolicy::cli::agent

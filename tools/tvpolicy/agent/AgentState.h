@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+namespace tvpolicy::cli::agent {
+
+/// Results not yet taken by the server, waiting in the state directory.
+struct PendingResults {
+    std::string name;  ///< the file's name; names sort oldest first
+    std::string url;   ///< where they go
+    std::string body;  ///< the results document
+};
+
+/// The agent's state directory: the results of every finished cycle until the server takes
+/// them (at most `maxPending`, the oldest dropped first) and the last verdict. Every file is
+/// written whole or not at all.
+class AgentState {
+public:
+    static constexpr std::size_t maxPending = 50;
+
+    explicit AgentState(std::string directory);
+
+    /// Creates the directory (owner only) when it is missing.
+    bool prepare(std::string& error) const;
+
+    /// Keeps results for `url`; the oldest beyond maxPending go.
+    bool queue(const std::string& url, const std::string& body, std::string& error);
+    /// What waits, oldest first.
+    std::vector<PendingResults> pending() const;
+    void forget(const std::string& name) const;
+
+    bool saveVerdict(const nlohmann::ordered_json& verdict, std::string& error) const;
+    std::optional<nlohmann::ordered_json> lastVerdict() const;
+
+    const std::string& directory() const { return directory_; }
+
+private:
+    std::string pendingDir() const;
+
+    std::string directory_;
+    unsigned sequence_ = 0;
+};
+
+}  // namespace tvpolicy::cli::agent

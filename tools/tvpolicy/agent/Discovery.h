@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace tvpolicy::cli::agent {
+
+/// The server's base address (ending in '/') from the SRV records of `_SERVICE._tcp.DOMAIN`
+/// (the search domain when `domain` is empty), in the library's order: the first target that
+/// takes a TCP connection within 5 seconds, completed by the TXT record's `scheme=` (https by
+/// default; http only when `allowHttp`) and `path=` (/ by default). Empty, with `why`, when
+/// none is found.
+std::string discoverServer(const std::string& service, const std::string& domain, bool allowHttp, std::string& why);
+
+}  // namespace tvpolicy::cli::agent
