@@ -173,7 +173,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ConfigCase{"SecretsReadable", "[login]\nusername = \"a\"\n", 0644, "chmod 600"},
                       ConfigCase{"PlainHttpNotAllowed", "server = \"http://127.0.0.1:1\"\n", 0600,
                                  "allow_http = true"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& testCase) { return testCase.param.name; });
 
 // Results the server does not take wait in the state directory, and go at the next cycle it
 // accepts, once each, oldest first.
@@ -232,7 +232,7 @@ TEST_P(AgentScripts, OnlyListedCommandsRun)
 INSTANTIATE_TEST_SUITE_P(Settings, AgentScripts,
                          ::testing::Values(ScriptCase{"Unlisted", "[\"uname -r\"]", false},
                                            ScriptCase{"Listed", "list", true}, ScriptCase{"Any", "\"any\"", true}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& testCase) { return testCase.param.name; });
 
 struct BrokenCase {
     std::string name;
@@ -258,7 +258,7 @@ INSTANTIATE_TEST_SUITE_P(
                       BrokenCase{"NotAPolicy", {"--policy", examples + "agent-config.xml"}},
                       BrokenCase{"NoPolicy", {}},
                       BrokenCase{"EndlessPolicy", {"--policy", examples + "compliant.xml", "--endless", "/agent/scan"}}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& testCase) { return testCase.param.name; });
 
 TEST(AgentBrokenServer, NoServerListeningIsUnreached)
 {

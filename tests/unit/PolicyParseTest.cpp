@@ -105,8 +105,8 @@ INSTANTIATE_TEST_SUITE_P(Documents, PolicyParseTest, testing::Values(
                   EXPECT_EQ(s->getInstructionsUrl(), "http://i/");
                   EXPECT_EQ(s->getGroup(), "g");
                   EXPECT_TRUE(s->isProhibited() && s->isCustomScan() && s->isWarning() && s->isPrimary());
-                  Section* t = p.getSections()["002t"];
-                  EXPECT_FALSE(t->isProhibited() || t->isCustomScan() || t->isWarning() || t->isPrimary());
+                  Section* second = p.getSections()["002t"];
+                  EXPECT_FALSE(second->isProhibited() || second->isCustomScan() || second->isWarning() || second->isPrimary());
                   EXPECT_EQ(p.getGroupCounts(), (std::map<std::string, std::uint32_t>{{"", 1}, {"g", 2}}));
               }},
     ParseCase{"OptionAttributes",
