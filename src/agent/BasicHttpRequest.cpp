@@ -74,6 +74,7 @@ void applyBounds(CURL* handle, const HttpBounds& bounds)
 struct BoundedFile {
     std::FILE* file;
     std::size_t left;
+    bool tooLarge = false;  // set when a block would have passed the cap
 };
 
 extern "C" std::size_t writeBoundedFile(char* data, std::size_t size, std::size_t count, void* target)
@@ -81,6 +82,7 @@ extern "C" std::size_t writeBoundedFile(char* data, std::size_t size, std::size_
     auto* sink = static_cast<BoundedFile*>(target);
     std::size_t bytes = size * count;
     if (bytes > sink->left) {
+        sink->tooLarge = true;
         return 0;
     }
     sink->left -= bytes;
@@ -170,7 +172,7 @@ HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::stri
     curl_easy_getinfo(handle, CURLINFO_SSL_VERIFYRESULT, &result.verifyResult);
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &result.responseCode);
     result.completed = code == CURLE_OK;
-    if (bodySink.tooLarge || headerSink.tooLarge || code == CURLE_FILESIZE_EXCEEDED) {
+    if (bodySink.tooLarge || headerSink.tooLarge || fileSink.tooLarge || code == CURLE_FILESIZE_EXCEEDED) {
         result.error = "the answer is larger than " + std::to_string(bounds.maxBodyBytes) + " bytes";
     } else if (!result.completed) {
         result.error = errorText[0] != 0 ? errorText : curl_easy_strerror(code);
