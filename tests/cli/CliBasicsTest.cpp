@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tvpolicy/checks/PostureTasks.h>
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 #include <tvpolicy/policy/TaskMap.h>
@@ -20,6 +21,7 @@ TEST(Cli, TasksListsEveryElementWithItsAttributes)
     auto json = runCli({"tasks", "--json"});
     ASSERT_EQ(json.exitCode, 0) << json.err;
     nlohmann::json kinds = nlohmann::json::parse(json.out);
+    tvpolicy::registerPostureTasks();  // as the program does at start
     const TaskMap& map = TaskFactory::getMap();
     ASSERT_EQ(kinds.size(), map.size());
     for (std::size_t i = 0; i < map.size(); ++i) {
