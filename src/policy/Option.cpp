@@ -104,7 +104,7 @@ void Option::testGroup(const std::string& key, Section& primarySection,
                        const std::vector<std::pair<std::string, Section*>>& secondaries, int& warnings, bool& allSkipped)
 {
     const std::string groupName = primarySection.getGroup();
-    const std::string where = " section '" + primarySection.getName() + "' for groupName '" + groupName + "'";
+    const std::string where = " section '" + primarySection.getName() + "' for group '" + groupName + "'";
     announce(announcedName(key), &primarySection);
     countProgress();
     trace("--Start primary" + where);
@@ -127,7 +127,7 @@ void Option::testGroup(const std::string& key, Section& primarySection,
         }
         announce(announcedName(otherKey), secondary);
         countProgress();
-        trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() + "' for groupName '" +
+        trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() + "' for group '" +
               groupName + "'");
         bool counts = secondary->test() || secondary->getStatus() == 4;
         groupPassed[groupName] = groupPassed[groupName] && counts;

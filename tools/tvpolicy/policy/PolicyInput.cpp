@@ -1,7 +1,6 @@
 #include "policy/PolicyInput.h"
 
 #include <algorithm>
-#include <sstream>
 
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 #include <xercesc/sax2/XMLReaderFactory.hpp>
@@ -66,10 +65,12 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
         error = sourceName(source) + ": is a directory\n" + libraryMessage(*empty);
     }
     if (!policy) {
-        std::istringstream lines(error);
-        for (std::string line; std::getline(lines, line);) {
-            console.err() << prefix << line << '\n';
+        // The library's message keeps its own line breaks; the cause after it is a line of its own.
+        const std::size_t last = error.rfind('\n');
+        if (last != std::string::npos) {
+            console.err() << prefix << error.substr(0, last) << '\n';
         }
+        console.err() << prefix << error.substr(last == std::string::npos ? 0 : last + 1) << '\n';
         return nullptr;
     }
     bytes = std::move(input.text);
