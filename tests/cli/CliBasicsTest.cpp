@@ -18,7 +18,6 @@ namespace {
 // Every registered kind, in registration order, as its element with the attributes it reads.
 TEST(Cli, TasksListsEveryElementWithItsAttributes)
 {
-    tvpolicy::registerPostureTasks();  // as the program does before it lists them
     auto json = runCli({"tasks", "--json"});
     ASSERT_EQ(json.exitCode, 0) << json.err;
     nlohmann::json kinds = nlohmann::json::parse(json.out);

@@ -65,12 +65,12 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
         error = sourceName(source) + ": is a directory\n" + libraryMessage(*empty);
     }
     if (!policy) {
-        // The library's message keeps its own line breaks; the cause after it is a line of its own.
-        const std::size_t last = error.rfind('\n');
-        if (last != std::string::npos) {
-            console.err() << prefix << error.substr(0, last) << '\n';
+        // The cause is a line of its own; the library's message after it keeps its own line breaks.
+        const std::size_t first = error.find('\n');
+        console.err() << prefix << error.substr(0, first) << '\n';
+        if (first != std::string::npos) {
+            console.err() << prefix << error.substr(first + 1) << '\n';
         }
-        console.err() << prefix << error.substr(last == std::string::npos ? 0 : last + 1) << '\n';
         return nullptr;
     }
     bytes = std::move(input.text);
