@@ -1,8 +1,9 @@
 // The posture checks, 100 of a kind per iteration (as a policy of 100 such checks runs them),
 // against the same 100 questions asked of the usual tool by a shell loop in the same run:
-// dpkg-query -W, grep -Eq, stat -c, ss -Hltn, nft list ruleset, sysctl -n. Read each pair's
-// times as the ratio. ServiceActive has no peer here (no service manager runs on the build
-// machines) and DiskEncrypted none in the list of usual tools.
+// dpkg-query -W, busctl, grep -Eq, stat -c, ss -Hltn, nft list ruleset, sysctl -n. Read each
+// pair's times as the ratio. No service manager runs on the build machines, so ServiceActive
+// asks systemd's manager as python3-dbusmock plays it on a private bus, and its peer asks the
+// same mock with busctl, as systemctl would ask systemd. DiskEncrypted has no usual tool.
 #include <benchmark/benchmark.h>
 
 #include <memory>
@@ -14,6 +15,9 @@
 
 #include "SpawnQuietly.h"
 #include "checks/PostureTask.h"
+#if TVPOLICY_BENCH_PRIVATE_BUS
+#include "support/PrivateBus.h"
+#endif
 
 namespace {
 
@@ -58,6 +62,47 @@ void BM_posture_PackageInstalled(benchmark::State& state)
 }
 void BM_posture_PackageInstalled_peer_dpkg_query(benchmark::State& state) { runShellLoop(state, "dpkg-query -W dpkg"); }
 
+#if TVPOLICY_BENCH_PRIVATE_BUS
+// The mocked manager with ssh.service started and enabled, for as long as the benchmarks run.
+testing_support::PrivateBus* mockedSystemd()
+{
+    static std::unique_ptr<testing_support::PrivateBus> bus = [] {
+        const char* systemd1 = "org.freedesktop.systemd1";
+        const char* path = "/org/freedesktop/systemd1";
+        const char* manager = "org.freedesktop.systemd1.Manager";
+        auto started = std::make_unique<testing_support::PrivateBus>();
+        if (!testing_support::PrivateBus::skipReason().empty() || !started->start() ||
+            !started->startMock("systemd", {systemd1, path, "org.freedesktop.DBus.Properties", "Get", "ss", manager,
+                                            "Version"})) {
+            return std::unique_ptr<testing_support::PrivateBus>();
+        }
+        started->mockControl(systemd1, path, "AddMockUnit", "s", {"ssh.service"});
+        started->call({systemd1, path, manager, "StartUnit", "ss", "ssh.service", "replace"});
+        return started;
+    }();
+    return bus.get();
+}
+
+void BM_posture_ServiceActive(benchmark::State& state)
+{
+    if (mockedSystemd() == nullptr) {
+        state.SkipWithError("no private bus with the systemd mock here");
+        return;
+    }
+    runChecks(state, createServiceActive, {{"unit", "ssh.service"}});
+}
+void BM_posture_ServiceActive_peer_busctl(benchmark::State& state)
+{
+    if (mockedSystemd() == nullptr) {
+        state.SkipWithError("no private bus with the systemd mock here");
+        return;
+    }
+    // What `systemctl is-active ssh` asks: the unit's object, then its ActiveState.
+    runShellLoop(state, "busctl --system get-property org.freedesktop.systemd1 "
+                        "/org/freedesktop/systemd1/unit/ssh_2eservice org.freedesktop.systemd1.Unit ActiveState");
+}
+#endif
+
 void BM_posture_FileContent(benchmark::State& state)
 {
     runChecks(state, createFileContent, {{"path", "/etc/passwd"}, {"pattern", "^root:"}});
@@ -89,6 +134,10 @@ void BM_posture_KernelParameter_peer_sysctl(benchmark::State& state)
 
 BENCHMARK(BM_posture_PackageInstalled)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_posture_PackageInstalled_peer_dpkg_query)->UseRealTime()->Unit(benchmark::kMillisecond);
+#if TVPOLICY_BENCH_PRIVATE_BUS
+BENCHMARK(BM_posture_ServiceActive)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_posture_ServiceActive_peer_busctl)->UseRealTime()->Unit(benchmark::kMillisecond);
+#endif
 BENCHMARK(BM_posture_FileContent)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_posture_FileContent_peer_grep)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_posture_FileMode)->UseRealTime()->Unit(benchmark::kMillisecond);

@@ -1,16 +1,15 @@
 #include "host/parse/InstalledApplications.h"
 
-#include <map>
+#include <array>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include "host/parse/PropertyList.h"
 
 namespace tvpolicy::parse {
 
 namespace {
-
-// One stanza of the status database: its fields by name (continuation lines are not needed).
-using Stanza = std::map<std::string, std::string, std::less<>>;
 
 std::string_view trimmed(std::string_view text)
 {
@@ -36,12 +35,41 @@ void forEachLine(const std::string& text, Visit&& visit)
     }
 }
 
+// One stanza of the status database: the fields read here, as views into the text (the first
+// of a repeated field counts), and how many fields it has in all, so that a stanza of other
+// fields only still ends at its blank line. A database of a thousand packages is a megabyte of
+// mostly descriptions, so nothing else is copied.
+struct Stanza {
+    enum Field { Package, Status, Architecture, MultiArch, Version, Count };
+    std::array<std::optional<std::string_view>, Count> values;
+    std::size_t fields = 0;
+
+    std::string_view operator[](Field name) const { return values[name].value_or(std::string_view()); }
+};
+
+std::optional<Stanza::Field> fieldNamed(std::string_view name)
+{
+    static constexpr std::array<std::pair<std::string_view, Stanza::Field>, Stanza::Count> names = {{
+        {"Package", Stanza::Package},
+        {"Status", Stanza::Status},
+        {"Architecture", Stanza::Architecture},
+        {"Multi-Arch", Stanza::MultiArch},
+        {"Version", Stanza::Version},
+    }};
+    for (const auto& [text, field] : names) {
+        if (text == name) {
+            return field;
+        }
+    }
+    return std::nullopt;
+}
+
 std::vector<Stanza> stanzasOf(const std::string& text)
 {
     std::vector<Stanza> stanzas(1);
     forEachLine(text, [&stanzas](std::string_view line) {
         if (trimmed(line).empty()) {
-            if (!stanzas.back().empty()) {
+            if (stanzas.back().fields != 0) {
                 stanzas.emplace_back();
             }
             return;
@@ -51,23 +79,22 @@ std::vector<Stanza> stanzasOf(const std::string& text)
         if (line.front() == ' ' || line.front() == '\t' || colon == std::string_view::npos) {
             return;
         }
-        stanzas.back().emplace(std::string(trimmed(line.substr(0, colon))), std::string(trimmed(line.substr(colon + 1))));
+        Stanza& stanza = stanzas.back();
+        ++stanza.fields;
+        std::optional<Stanza::Field> field = fieldNamed(trimmed(line.substr(0, colon)));
+        if (field && !stanza.values[*field]) {
+            stanza.values[*field] = trimmed(line.substr(colon + 1));
+        }
     });
     return stanzas;
-}
-
-std::string field(const Stanza& stanza, std::string_view name)
-{
-    auto found = stanza.find(name);
-    return found != stanza.end() ? found->second : std::string();
 }
 
 bool installed(const Stanza& stanza)
 {
     // "want flag state": the state is the last word.
-    std::string status = field(stanza, "Status");
+    std::string_view status = stanza[Stanza::Status];
     std::size_t blank = status.find_last_of(' ');
-    std::string state = blank == std::string::npos ? status : status.substr(blank + 1);
+    std::string_view state = blank == std::string_view::npos ? status : status.substr(blank + 1);
     return !state.empty() && state != "not-installed" && state != "config-files";
 }
 
@@ -115,24 +142,25 @@ std::vector<InstalledApplication> applicationsFromProfiler(const std::string& xm
 std::vector<InstalledApplication> packagesFromDpkgStatus(const std::string& status)
 {
     std::vector<Stanza> stanzas = stanzasOf(status);
-    std::string native;
+    std::string_view native;
     for (const Stanza& stanza : stanzas) {
-        if (field(stanza, "Package") == "dpkg" && installed(stanza)) {
-            native = field(stanza, "Architecture");
+        if (stanza[Stanza::Package] == "dpkg" && installed(stanza)) {
+            native = stanza[Stanza::Architecture];
         }
     }
     std::vector<InstalledApplication> packages;
+    packages.reserve(stanzas.size());
     for (const Stanza& stanza : stanzas) {
-        std::string name = field(stanza, "Package");
+        std::string name(stanza[Stanza::Package]);
         if (name.empty() || !installed(stanza)) {
             continue;
         }
-        std::string architecture = field(stanza, "Architecture");
+        std::string_view architecture = stanza[Stanza::Architecture];
         bool foreign = !native.empty() && !architecture.empty() && architecture != native && architecture != "all";
-        if (!architecture.empty() && (field(stanza, "Multi-Arch") == "same" || foreign)) {
-            name += ":" + architecture;
+        if (!architecture.empty() && (stanza[Stanza::MultiArch] == "same" || foreign)) {
+            name.append(":").append(architecture);
         }
-        packages.push_back({name, field(stanza, "Version"), field(stanza, "Status")});
+        packages.push_back({name, std::string(stanza[Stanza::Version]), std::string(stanza[Stanza::Status])});
     }
     return packages;
 }

@@ -20,10 +20,20 @@ bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text)
         return false;
     }
     text.clear();
-    char buffer[4096];
+    // A regular file is read into a string of its size at once, so that a large one (a package
+    // database) is neither copied as the string grows nor read in small pieces; files of
+    // /proc and /sys say a size of 0 or 4096 and grow the string as they go.
+    struct stat status {};
+    std::size_t chunk = 4096;
+    if (::fstat(fd.get(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0) {
+        chunk = std::max(chunk, std::min(static_cast<std::size_t>(status.st_size) + 1, limit));
+    }
     while (text.size() < limit) {
-        std::size_t want = std::min(sizeof buffer, limit - text.size());
-        ssize_t got = ::read(fd.get(), buffer, want);
+        std::size_t have = text.size();
+        std::size_t want = std::min(chunk, limit - have);
+        text.resize(have + want);
+        ssize_t got = ::read(fd.get(), text.data() + have, want);
+        text.resize(have + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
         if (got < 0 && errno == EINTR) {
             continue;
         }
@@ -36,7 +46,6 @@ bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text)
         if (got == 0) {
             break;
         }
-        text.append(buffer, static_cast<std::size_t>(got));
     }
     return true;
 }
