@@ -13,7 +13,7 @@
 
 #include <unistd.h>
 
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 
 namespace fuzz {
 
@@ -55,7 +55,7 @@ public:
             std::abort();
         }
         host_.root = std::string(pattern) + "/";
-        // Relative paths too; no ".." climbs out of the folder (FakeHost keeps to it).
+        // Relative paths too; no ".." climbs out of the folder (DescribedHostProbe keeps to it).
         host_.pathMap["/"] = host_.root;
         host_.pathMap[""] = host_.root;
     }
@@ -63,19 +63,14 @@ public:
     EmptyHost(const EmptyHost&) = delete;
     EmptyHost& operator=(const EmptyHost&) = delete;
 
-    tvpolicy::FakeHost& host()
-    {
-        host_.commandsRun.clear();
-        host_.openedURLs.clear();
-        return host_;
-    }
+    tvpolicy::DescribedHostProbe& host() { return host_; }
 
 private:
-    struct Confined : tvpolicy::FakeHost {
+    struct Confined : tvpolicy::DescribedHostProbe {
         std::string root;
         std::string systemPath(const std::string& path) const override
         {
-            std::string mapped = FakeHost::systemPath(path);
+            std::string mapped = DescribedHostProbe::systemPath(path);
             std::string normal = std::filesystem::path(mapped).lexically_normal().string();
             if (normal.compare(0, root.size(), root) != 0 && normal + "/" != root) {
                 std::fprintf(stderr, "system path %s left the described host: %s\n", path.c_str(), mapped.c_str());
@@ -94,8 +89,8 @@ inline void initialiseIsolated()
     isolateFromMachine();
 }
 
-/// The one described host of the process, its records cleared.
-inline tvpolicy::FakeHost& emptyHost()
+/// The one described host of the process.
+inline tvpolicy::DescribedHostProbe& emptyHost()
 {
     static EmptyHost empty;
     return empty.host();

@@ -66,7 +66,7 @@
 #include <tvpolicy/checks/VersionFromScriptTask.h>
 #include <tvpolicy/host/ApplicationInventoryItem.h>
 #include <tvpolicy/host/EventProbe.h>
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/IPChangeNotifier.h>
 #include <tvpolicy/host/MACChangeNotifier.h>

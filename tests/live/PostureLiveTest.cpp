@@ -1,7 +1,7 @@
 // The posture checks against this machine: dpkg's own version order and package database,
 // and listening sockets, the packet filter and kernel parameters in network namespaces that
 // the tests make and load with real nftables rulesets.
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 
 #include <gtest/gtest.h>
 
@@ -69,7 +69,7 @@ TEST(DpkgVersionOrder, EveryPairAgreesWithDpkgThroughPackageInstalled)
         GTEST_SKIP() << "dpkg is not installed";
     }
     ASSERT_GE(std::size(versionPairs), 40u);
-    tvpolicy::FakeHost host;
+    tvpolicy::DescribedHostProbe host;
     tvpolicy::ScopedHost scoped(host);
     host.applications.format = tvpolicy::HostProbe::ApplicationListing::Format::DpkgStatus;
     for (const auto& [installed, required] : versionPairs) {

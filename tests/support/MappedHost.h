@@ -3,7 +3,7 @@
 #include <map>
 #include <string>
 
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 
 #include "support/TempDir.h"
 
@@ -21,7 +21,7 @@ public:
     }
 
     TempDir tmp;
-    tvpolicy::FakeHost host;
+    tvpolicy::DescribedHostProbe host;
 
 private:
     tvpolicy::ScopedHost scoped_;

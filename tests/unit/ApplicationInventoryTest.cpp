@@ -1,7 +1,7 @@
 // The application inventory: the profiler's property list (with its progress lines), Debian's
 // status database and rpm's listing, each through a described host, and the app fragment.
 #include <tvpolicy/host/ApplicationInventoryItem.h>
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 
 #include <gtest/gtest.h>
 
@@ -153,7 +153,7 @@ TEST(ApplicationInventory, GetInstancesReadsTheHostsListing)
              {Format::RpmQuery, "b\t2-1\n", {{"b", "2-1"}}},
              {Format::None, "Package: a\nVersion: 1\n", {}},
          }) {
-        tvpolicy::FakeHost host;
+        tvpolicy::DescribedHostProbe host;
         host.applications = {c.format, c.text};
         tvpolicy::ScopedHost scoped(host);
         testing_support::CaptureStream out(std::cout);

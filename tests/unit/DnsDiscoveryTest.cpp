@@ -1,6 +1,5 @@
 #include <tvpolicy/agent/SRVRecord.h>
 #include <tvpolicy/agent/TXTRecord.h>
-#include <tvpolicy/host/FakeHost.h>
 #include <tvpolicy/host/NameServer.h>
 
 #include <gtest/gtest.h>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "support/CaptureStream.h"
+#include "support/RecordingHost.h"
 
 namespace {
 
@@ -107,7 +107,7 @@ protected:
         return shown;
     }
 
-    tvpolicy::FakeHost host;
+    testing_support::RecordingHost host;
     tvpolicy::ScopedHost scope{host};
 };
 

@@ -1,6 +1,6 @@
 #include <tvpolicy/checks/File.h>
 #include <tvpolicy/checks/FileTask.h>
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/HostProbe.h>
 
 #include <gtest/gtest.h>
@@ -168,7 +168,7 @@ TEST(FileTask, DescribedHostSearchesStayInsideItsFolder)
     TempDir tmp;
     tmp.write("outside/marker", "");
     tmp.write("root/etc/marker", "");
-    tvpolicy::FakeHost host;
+    tvpolicy::DescribedHostProbe host;
     host.pathMap["/"] = (tmp.path() / "root").string() + "/";
     host.pathMap[""] = host.pathMap["/"];
     tvpolicy::ScopedHost described(host);

@@ -1,17 +1,17 @@
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/HostProbe.h>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using tvpolicy::FakeHost;
+using tvpolicy::DescribedHostProbe;
 
 TEST(HostProbe, ScopedHostSwapsAndRestoresNested)
 {
     tvpolicy::HostProbe* real = &tvpolicy::currentHost();
     EXPECT_EQ(real, &tvpolicy::systemHost());
-    FakeHost outer, inner;
+    DescribedHostProbe outer, inner;
     {
         tvpolicy::ScopedHost a(outer);
         EXPECT_EQ(&tvpolicy::currentHost(), &outer);
@@ -24,9 +24,9 @@ TEST(HostProbe, ScopedHostSwapsAndRestoresNested)
     EXPECT_EQ(&tvpolicy::currentHost(), real);
 }
 
-TEST(FakeHost, LongestPrefixWins)
+TEST(DescribedHostProbe, LongestPrefixWins)
 {
-    FakeHost host;
+    DescribedHostProbe host;
     host.pathMap = {{"/Library/", "/tmp/lib/"}, {"/Library/Receipts/", "/tmp/r/"}};
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"/Library/Receipts/A.pkg", "/tmp/r/A.pkg"}, {"/Library/Other", "/tmp/lib/Other"},
@@ -36,9 +36,9 @@ TEST(FakeHost, LongestPrefixWins)
     }
 }
 
-TEST(HostProbe, FakeHostKeepsMappedPathsInsideTheirFolder)
+TEST(HostProbe, DescribedHostKeepsMappedPathsInsideTheirFolder)
 {
-    FakeHost host;
+    DescribedHostProbe host;
     host.pathMap = {{"/", "/tmp/root/"}, {"", "/tmp/root/"}, {"/opt/app", "/tmp/app"}};
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"/", "/tmp/root/"},

@@ -1,13 +1,13 @@
-#include <tvpolicy/host/FakeHost.h>
 #include <tvpolicy/host/Machine.h>
 
 #include <gtest/gtest.h>
 
 #include "support/CaptureStream.h"
+#include "support/RecordingHost.h"
 
 namespace {
 
-using tvpolicy::FakeHost;
+using testing_support::RecordingHost;
 using tvpolicy::ScopedHost;
 
 struct VersionCase {
@@ -21,7 +21,7 @@ class MachineVersionTest : public testing::TestWithParam<VersionCase> {};
 
 TEST_P(MachineVersionTest, StripsEveryNewlineAndLogsTheVersion)
 {
-    FakeHost host;
+    RecordingHost host;
     host.productName = GetParam().name;
     host.productVersion = GetParam().version;
     ScopedHost scope(host);
@@ -43,7 +43,7 @@ TEST(Machine, HostNameIsCutAtTheFirstDot)
         {"alpha", "alpha"}, {"alpha.lan", "alpha"}, {"alpha.corp.example.com", "alpha"},
         {".hidden.lan", "hidden"}, {"...", ""}, {"", ""}};
     for (const auto& [node, hostName] : cases) {
-        FakeHost host;
+        RecordingHost host;
         host.node = node;
         ScopedHost scope(host);
         EXPECT_EQ(Machine::getHostName(), hostName) << node;
@@ -62,7 +62,7 @@ TEST(Machine, HardwareDescriptionJoinsWhatTheHardwareRecords)
         {{"QEMU", "", "", {}, {}}, "QEMU  "},
         {{}, ""}};
     for (const auto& [identity, description] : cases) {
-        FakeHost host;
+        RecordingHost host;
         host.hardware = identity;
         ScopedHost scope(host);
         EXPECT_EQ(Machine::getHardwareDesc(), description);
@@ -71,7 +71,7 @@ TEST(Machine, HardwareDescriptionJoinsWhatTheHardwareRecords)
 
 TEST(Machine, IdentityTextsAreCutAt127Characters)
 {
-    FakeHost host;
+    RecordingHost host;
     host.hardware.uuid = std::string(200, 'u');
     host.hardware.serialNumber = "C02ABC123";
     ScopedHost scope(host);
@@ -85,7 +85,7 @@ TEST(Machine, IdentityTextsAreCutAt127Characters)
 
 TEST(Machine, LaunchBrowserHandsTheURLOverUntouched)
 {
-    FakeHost host;
+    RecordingHost host;
     ScopedHost scope(host);
     Machine::launchBrowser("https://nac.example/login?a=1&b='2'");
     EXPECT_EQ(host.openedURLs, std::vector<std::string>{"https://nac.example/login?a=1&b='2'"});
@@ -93,7 +93,7 @@ TEST(Machine, LaunchBrowserHandsTheURLOverUntouched)
 
 TEST(Machine, ActionsOfOtherPlatformsDoNothing)
 {
-    FakeHost host;
+    RecordingHost host;
     ScopedHost scope(host);
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();

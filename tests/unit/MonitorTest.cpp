@@ -1,5 +1,5 @@
 #include <tvpolicy/checks/Monitor.h>
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/HostProbe.h>
 
 #include <gtest/gtest.h>
@@ -48,7 +48,7 @@ class MonitorStatusTest : public testing::TestWithParam<MonitorCase> {};
 
 TEST_P(MonitorStatusTest, ReportsTheTasksOutcome)
 {
-    tvpolicy::FakeHost host;
+    tvpolicy::DescribedHostProbe host;
     host.processes = {{1, "init", std::string("/sbin/init")}, {42, "sshd", std::string("/usr/sbin/sshd")}};
     tvpolicy::ScopedHost scoped(host);
 

@@ -1,6 +1,5 @@
 #include <tvpolicy/checks/FlushDNS.h>
 #include <tvpolicy/checks/MacOSXVersionTask.h>
-#include <tvpolicy/host/FakeHost.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include <gtest/gtest.h>
@@ -10,10 +9,11 @@
 #include "checks/MacOSVersion.h"
 #include "support/CaptureStream.h"
 #include "support/PerformTask.h"
+#include "support/RecordingHost.h"
 
 namespace {
 
-using tvpolicy::FakeHost;
+using testing_support::RecordingHost;
 using tvpolicy::ScopedHost;
 
 std::unique_ptr<TaskResponse> performWith(Task& task, const std::vector<Task::Attribute>& attributes)
@@ -34,7 +34,7 @@ class MacOSXVersionTaskTest : public testing::TestWithParam<VersionCase> {};
 
 TEST_P(MacOSXVersionTaskTest, ComparesTheOSVersion)
 {
-    FakeHost host;
+    RecordingHost host;
     host.productVersion = GetParam().osVersion;
     ScopedHost scope(host);
     EXPECT_EQ(testing_support::performBareCheck("MacOSXVersionTask", GetParam().attributes), GetParam().passed);
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Versions, MacOSXVersionTaskTest, testing::Values(
 
 TEST(MacOSXVersionTask, LogsTheVersionItReads)
 {
-    FakeHost host;
+    RecordingHost host;
     host.productVersion = "10.6.8\n";
     ScopedHost scope(host);
     MacOSXVersionTask task;
@@ -90,7 +90,7 @@ class FlushDNSTaskTest : public testing::TestWithParam<GateCase> {};
 TEST_P(FlushDNSTaskTest, IssuesTheToolOfTheVersion)
 {
     EXPECT_EQ(tvpolicy::macOSDnsFlushCommand(GetParam().osVersion), GetParam().command);
-    FakeHost host;
+    RecordingHost host;
     host.productVersion = GetParam().osVersion;
     host.flushCommand = tvpolicy::macOSDnsFlushCommand(host.productVersion);
     host.commandStatus = 127 << 8;  // a tool that is not there: the task passes all the same
@@ -120,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(Versions, FlushDNSTaskTest, testing::Values(
 
 TEST(FlushDNS, ToolCommandsGiveTheirStatus)
 {
-    FakeHost host;
+    RecordingHost host;
     host.commandStatus = 256;
     ScopedHost scope(host);
     FlushDNS task;

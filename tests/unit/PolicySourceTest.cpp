@@ -13,7 +13,7 @@
 
 #include <tvpolicy/agent/DocumentCheck.h>
 #include <tvpolicy/checks/VersionEvidence.h>
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 #include <tvpolicy/policy/Task.h>
@@ -141,7 +141,7 @@ TEST(PolicySource, AnnouncementsNameTheirSection)
 
 TEST(PolicySource, VersionChecksKeepWhatTheyCompared)
 {
-    tvpolicy::FakeHost host;
+    tvpolicy::DescribedHostProbe host;
     host.productVersion = "10.4.11";
     tvpolicy::ScopedHost scope(host);
     std::unique_ptr<Task> task(TaskFactory::createTask("MacOSXVersionTask"));

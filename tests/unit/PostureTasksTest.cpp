@@ -1,6 +1,6 @@
 // The posture kinds against described facts, and FileContent/FileMode against real files.
 #include <tvpolicy/checks/PostureTasks.h>
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/PostureProbe.h>
 
 #include <gtest/gtest.h>
@@ -74,7 +74,7 @@ protected:
         }
     }
 
-    tvpolicy::FakeHost host;
+    tvpolicy::DescribedHostProbe host;
     DescribedPosture facts;
     tvpolicy::ScopedHost scopedHost;
     tvpolicy::ScopedPosture scopedPosture;

@@ -1,5 +1,5 @@
 #include <tvpolicy/checks/ProcessList.h>
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 
 #include <gtest/gtest.h>
 
@@ -9,15 +9,15 @@
 namespace {
 
 using com::torvane::api::ProcessList;
-using tvpolicy::FakeHost;
+using tvpolicy::DescribedHostProbe;
 using tvpolicy::ScopedHost;
 using Entry = tvpolicy::HostProbe::ProcessEntry;
 
 // A table as a Linux host shows it to an unprivileged user: its own processes with their
 // executables, others' (and kernel threads) without.
-FakeHost describedHost()
+DescribedHostProbe describedHost()
 {
-    FakeHost host;
+    DescribedHostProbe host;
     host.processes = {
         {1, "systemd", std::nullopt},
         {2, "kthreadd", std::nullopt},
@@ -31,7 +31,7 @@ FakeHost describedHost()
 
 TEST(ProcessList, MatchesWholeNamesOfReadableProcesses)
 {
-    FakeHost host = describedHost();
+    DescribedHostProbe host = describedHost();
     ScopedHost scope(host);
     const std::vector<std::pair<std::string, bool>> cases = {
         {"bash", true},                   // base name and short name
@@ -51,7 +51,7 @@ TEST(ProcessList, MatchesWholeNamesOfReadableProcesses)
 
 TEST(ProcessList, ReadsTheTableAfreshOnEveryQuery)
 {
-    FakeHost host;
+    DescribedHostProbe host;
     ScopedHost scope(host);
     ProcessList list;
     EXPECT_FALSE(list.isProcessRunning("backupd"));
@@ -63,7 +63,7 @@ TEST(ProcessList, ReadsTheTableAfreshOnEveryQuery)
 
 TEST(ProcessList, DumpLogsShortNamesAndReadableExecutables)
 {
-    FakeHost host;
+    DescribedHostProbe host;
     host.processes = {{1, "systemd", std::nullopt}, {9, "tvpolicy-agent-", std::string("/opt/tv/tvpolicy-agent-daemon")}};
     ScopedHost scope(host);
     testing_support::CaptureStream log(std::clog);
@@ -82,7 +82,7 @@ class ProcessExistsTaskTest : public testing::TestWithParam<TaskCase> {};
 
 TEST_P(ProcessExistsTaskTest, AnswersWithTheFixedTexts)
 {
-    FakeHost host = describedHost();
+    DescribedHostProbe host = describedHost();
     ScopedHost scope(host);
     auto run = testing_support::performTask("ProcessExistsTask", GetParam().attributes);
     EXPECT_EQ(run.response->passed, GetParam().passed);

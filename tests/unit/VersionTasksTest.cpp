@@ -1,4 +1,4 @@
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 
 #include <gtest/gtest.h>
 
@@ -59,14 +59,14 @@ TEST(VersionFromReceipt, ReadsThroughTheHostsSystemPath)
 {
     TempDir tmp;
     tmp.write("elsewhere/Tool.pkg/Contents/Resources/package_version", "major: 7\nminor: 1\n");
-    tvpolicy::FakeHost host;
+    tvpolicy::DescribedHostProbe host;
     host.pathMap["/Library/Receipts/"] = (tmp.path() / "elsewhere").string() + "/";
     std::vector<Task::Attribute> attributes = {{"pkg", "Tool.pkg"}, {"delim", "."}, {"required", "7.1"}, {"operation", "eq"}};
     {
         tvpolicy::ScopedHost scoped(host);
         EXPECT_TRUE(performBareCheck("VersionFromReceiptTask", attributes));
     }
-    tvpolicy::FakeHost unmapped;
+    tvpolicy::DescribedHostProbe unmapped;
     tvpolicy::ScopedHost scoped(unmapped);
     EXPECT_FALSE(performBareCheck("VersionFromReceiptTask", attributes));
 }

@@ -16,7 +16,7 @@ namespace tvpolicy {
 ///
 /// The current probe is the real backend of this operating system unless a ScopedHost swaps in
 /// another: an embedder may describe a host of its own (for example to evaluate a policy
-/// against another machine's facts), and tests describe exact hosts with FakeHost.
+/// against another machine's facts) with DescribedHostProbe, as `tvpolicy run --host` does.
 ///
 /// Values are raw: the library strips what it needs to strip (trailing newlines of command
 /// output, the domain part of a node name), so a described host may hand over text exactly as

@@ -87,7 +87,7 @@ void account(const std::string& text, std::string& name, unsigned long& id)
 }
 
 // The posture facts: packages become a package database of dpkg's, the rest described facts.
-void describePosture(const Json& document, tvpolicy::FakeHost& host, tvpolicy::DescribedPosture& posture)
+void describePosture(const Json& document, tvpolicy::DescribedHostProbe& host, tvpolicy::DescribedPosture& posture)
 {
     if (document.contains("packages")) {
         const Json& packages = arrayField(document, "packages");
@@ -191,7 +191,7 @@ std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std:
         return nullptr;
     }
     std::unique_ptr<DescribedHost> described(new DescribedHost);
-    tvpolicy::FakeHost& host = described->host_;
+    tvpolicy::DescribedHostProbe& host = described->host_;
     try {
         Json document = Json::parse(in);
         onlyFields(document, "", {"os", "hostName", "architecture", "hardware", "processes", "commands", "root",

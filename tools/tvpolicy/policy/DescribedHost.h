@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/PostureProbe.h>
 
 namespace tvpolicy::cli {
@@ -20,7 +20,7 @@ public:
     DescribedHost(const DescribedHost&) = delete;
     DescribedHost& operator=(const DescribedHost&) = delete;
 
-    tvpolicy::FakeHost& host() { return host_; }
+    tvpolicy::DescribedHostProbe& host() { return host_; }
     /// The posture facts (services, sockets, packet filter, mounts, kernel parameters, file
     /// owners and modes), for tvpolicy::ScopedPosture.
     tvpolicy::DescribedPosture& posture() { return posture_; }
@@ -28,7 +28,7 @@ public:
 private:
     DescribedHost() = default;
 
-    tvpolicy::FakeHost host_;
+    tvpolicy::DescribedHostProbe host_;
     tvpolicy::DescribedPosture posture_;
     std::string emptyRoot_;  // made for a description without "root"; removed on destruction
 };

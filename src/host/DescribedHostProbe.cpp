@@ -1,4 +1,4 @@
-#include <tvpolicy/host/FakeHost.h>
+#include <tvpolicy/host/DescribedHostProbe.h>
 
 #include <filesystem>
 #include <string>
@@ -27,7 +27,7 @@ std::string confined(const std::string& rest)
 
 }  // namespace
 
-std::string FakeHost::systemPath(const std::string& path) const
+std::string DescribedHostProbe::systemPath(const std::string& path) const
 {
     const std::pair<const std::string, std::string>* best = nullptr;
     for (const auto& mapping : pathMap) {
@@ -39,49 +39,39 @@ std::string FakeHost::systemPath(const std::string& path) const
     return best == nullptr ? path : best->second + confined(path.substr(best->first.size()));
 }
 
-std::string FakeHost::osProductVersion() const { return productVersion; }
+std::string DescribedHostProbe::osProductVersion() const { return productVersion; }
 
-std::string FakeHost::osProductName() const { return productName; }
+std::string DescribedHostProbe::osProductName() const { return productName; }
 
-std::string FakeHost::nodeName() const { return node; }
+std::string DescribedHostProbe::nodeName() const { return node; }
 
-std::string FakeHost::machineArchitecture() const { return architecture; }
+std::string DescribedHostProbe::machineArchitecture() const { return architecture; }
 
-HostProbe::HardwareIdentity FakeHost::hardwareIdentity() const { return hardware; }
+HostProbe::HardwareIdentity DescribedHostProbe::hardwareIdentity() const { return hardware; }
 
-std::vector<HostProbe::ProcessEntry> FakeHost::processTable() const { return processes; }
+std::vector<HostProbe::ProcessEntry> DescribedHostProbe::processTable() const { return processes; }
 
-std::string FakeHost::dnsFlushCommand() const { return flushCommand; }
+std::string DescribedHostProbe::dnsFlushCommand() const { return flushCommand; }
 
-std::string FakeHost::commandOutput(const std::string& command, unsigned long)
+std::string DescribedHostProbe::commandOutput(const std::string& command, unsigned long)
 {
-    commandsRun.push_back(command);
     auto found = commandOutputs.find(command);
     return found != commandOutputs.end() ? found->second : std::string();
 }
 
-int FakeHost::runShellCommand(const std::string& command)
-{
-    commandsRun.push_back(command);
-    return commandStatus;
-}
+int DescribedHostProbe::runShellCommand(const std::string&) { return commandStatus; }
 
-void FakeHost::openURL(const std::string& url) { openedURLs.push_back(url); }
+void DescribedHostProbe::openURL(const std::string&) {}
 
-std::vector<unsigned char> FakeHost::dnsQuery(const std::string& name, int type,
-                                              const std::optional<NameServer>& server) const
+std::vector<unsigned char> DescribedHostProbe::dnsQuery(const std::string& name, int type,
+                                              const std::optional<NameServer>&) const
 {
-    std::string query = name + " " + std::to_string(type);
-    if (server) {
-        query += " @" + server->address + ":" + std::to_string(server->port);
-    }
-    dnsQueries.push_back(query);
     auto found = dnsAnswers.find({name, type});
     return found != dnsAnswers.end() ? found->second : std::vector<unsigned char>();
 }
 
-std::string FakeHost::dnsDefaultDomain() const { return searchDomain; }
+std::string DescribedHostProbe::dnsDefaultDomain() const { return searchDomain; }
 
-HostProbe::ApplicationListing FakeHost::applicationListing() const { return applications; }
+HostProbe::ApplicationListing DescribedHostProbe::applicationListing() const { return applications; }
 
 }  // namespace tvpolicy

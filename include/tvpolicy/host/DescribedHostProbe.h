@@ -9,10 +9,11 @@
 
 namespace tvpolicy {
 
-/// A described host: every fact is a plain field that the caller sets, and every command the
-/// library issues is recorded instead of run. Used with ScopedHost to run checks against exact
-/// facts.
-class TVPOLICY_API FakeHost : public HostProbe {
+/// A described host: every fact is a plain field that the caller sets, and no command the
+/// library issues is run (each answers from `commandStatus` and `commandOutputs`). Installed
+/// with ScopedHost, checks run against these facts instead of this computer's: `tvpolicy run
+/// --host` evaluates a policy for another machine with it.
+class TVPOLICY_API DescribedHostProbe : public HostProbe {
 public:
     /// Fixed system paths mapped by prefix: {"/Library/Receipts/", "/tmp/x/receipts/"} sends
     /// "/Library/Receipts/A.pkg" to "/tmp/x/receipts/A.pkg". The longest matching prefix
@@ -32,16 +33,11 @@ public:
     int commandStatus = 0;                 ///< what runShellCommand returns
     /// What commandOutput answers for each command; a command not listed prints nothing.
     std::map<std::string, std::string> commandOutputs;
-    /// Every command given to runShellCommand or commandOutput, in order; none is run.
-    std::vector<std::string> commandsRun;
-    std::vector<std::string> openedURLs;   ///< every URL given to openURL, in order
     ApplicationListing applications;       ///< answered by applicationListing()
 
     /// Answer messages of dnsQuery by query name and type; an unlisted query gets none.
     std::map<std::pair<std::string, int>, std::vector<unsigned char>> dnsAnswers;
     std::string searchDomain;              ///< answered by dnsDefaultDomain()
-    /// Every dnsQuery as "name type" plus " @address:port" when a server was given, in order.
-    mutable std::vector<std::string> dnsQueries;
 
     std::string systemPath(const std::string& path) const override;
     std::string osProductVersion() const override;
@@ -53,6 +49,7 @@ public:
     std::string dnsFlushCommand() const override;
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
+    /// Opens nothing: a described host has no browser.
     void openURL(const std::string& url) override;
     std::vector<unsigned char> dnsQuery(const std::string& name, int type,
                                         const std::optional<NameServer>& server) const override;
