@@ -46,6 +46,7 @@
 #include <tvpolicy/agent/WifiManager.h>
 #include <tvpolicy/base/Signal.h>
 #include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/base/Utf8.h>
 #include <tvpolicy/base/Utilities.h>
 #include <tvpolicy/checks/Avast.h>
 #include <tvpolicy/checks/AvastVersionTask.h>

@@ -7,12 +7,12 @@
 #include <optional>
 #include <vector>
 
-#include <unicode/utf8.h>
 #include <unistd.h>
 
 #include <tvpolicy/host/NetworkProbe.h>
 #include <tvpolicy/base/Timestamp.h>
 
+#include <tvpolicy/base/Utf8.h>
 #include "host/CurrentWifi.h"
 
 namespace {
@@ -30,14 +30,7 @@ std::string utf8(const std::wstring& text)
 {
     std::string out;
     for (wchar_t wide : text) {
-        auto c = static_cast<UChar32>(wide);
-        if (c < 0 || c > 0x10FFFF || U_IS_SURROGATE(c)) {
-            c = 0xFFFD;
-        }
-        std::uint8_t bytes[U8_MAX_LENGTH];
-        std::int32_t length = 0;
-        U8_APPEND_UNSAFE(bytes, length, c);
-        out.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
+        tvpolicy::utf8::append(out, static_cast<std::int32_t>(wide));
     }
     return out;
 }
@@ -47,17 +40,9 @@ std::string utf8(const std::wstring& text)
 std::wstring wide(const std::string& text)
 {
     std::wstring out;
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-    const auto length = static_cast<std::int32_t>(text.size());
-    for (std::int32_t i = 0; i < length;) {
-        const std::int32_t start = i;
-        UChar32 c = 0;
-        U8_NEXT(bytes, i, length, c);
-        if (c < 0) {
-            c = 0xFFFD;
-            i = start + 1;
-        }
-        out += static_cast<wchar_t>(c);
+    for (std::size_t i = 0; i < text.size();) {
+        std::int32_t c = tvpolicy::utf8::next(text, i);
+        out += static_cast<wchar_t>(c < 0 ? tvpolicy::utf8::replacement : c);
     }
     return out;
 }

@@ -2,29 +2,17 @@
 
 #include <sys/ioctl.h>
 #include <unicode/uchar.h>
-#include <unicode/utf8.h>
 #include <unistd.h>
 
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
+#include <tvpolicy/base/Utf8.h>
+
 namespace tvpolicy::cli {
 
 namespace {
-
-// Decodes the character at `i` and moves `i` past it; a byte that starts no valid UTF-8
-// sequence is a character of its own, returned negative.
-UChar32 next(const std::string& text, std::size_t& i)
-{
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-    const auto length = static_cast<std::int32_t>(text.size());
-    auto at = static_cast<std::int32_t>(i);
-    UChar32 c = 0;
-    U8_NEXT(bytes, at, length, c);
-    i = c < 0 ? i + 1 : static_cast<std::size_t>(at);
-    return c;
-}
 
 // Unicode's East Asian width and emoji presentation: wide and full-width characters and
 // emoji take two columns; control characters, combining marks and invisible format
@@ -52,7 +40,7 @@ std::size_t displayWidth(const std::string& text)
 {
     std::size_t width = 0;
     for (std::size_t i = 0; i < text.size();) {
-        width += columnsOf(next(text, i));
+        width += columnsOf(utf8::next(text, i));
     }
     return width;
 }
@@ -62,7 +50,7 @@ std::string fitWidth(const std::string& text, std::size_t columns)
     std::size_t width = 0;
     for (std::size_t i = 0; i < text.size();) {
         const std::size_t start = i;
-        const std::size_t more = columnsOf(next(text, i));
+        const std::size_t more = columnsOf(utf8::next(text, i));
         if (width + more > columns) {
             return text.substr(0, start);
         }

@@ -8,6 +8,8 @@
 #include <xercesc/util/TransService.hpp>
 #include <xercesc/util/XMLString.hpp>
 
+#include <tvpolicy/base/Utf8.h>
+
 #include "report/PolicyReport.h"
 
 namespace tvpolicy::cli {
@@ -39,8 +41,8 @@ public:
     // so do characters that XML 1.0 cannot carry.
     explicit Wide(const std::string& text)
     {
-        std::string utf8 = Json::parse(Json(text).dump(-1, ' ', false, Json::error_handler_t::replace)).get<std::string>();
-        TranscodeFromStr from(reinterpret_cast<const XMLByte*>(utf8.data()), utf8.size(), "UTF-8");
+        std::string valid = utf8::valid(text);
+        TranscodeFromStr from(reinterpret_cast<const XMLByte*>(valid.data()), valid.size(), "UTF-8");
         text_ = XMLString::replicate(from.str());
         for (XMLCh* c = text_; c != nullptr && *c != 0; ++c) {
             if ((*c < 0x20 && *c != 0x09 && *c != 0x0A && *c != 0x0D) || *c == 0xFFFE || *c == 0xFFFF) {
