@@ -10,6 +10,7 @@
 
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/NetworkProbe.h>
+#include <tvpolicy/base/OwnedFd.h>
 #include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/base/Utilities.h>
 
@@ -133,28 +134,14 @@ void NetworkInterface::getVMwareGuestInterfaces(NetworkInterfaceMap& interfaces)
 void getAddressesFromVMXFile(const std::string& path, std::vector<std::string>& macs)
 {
     // Opened without blocking, so a FIFO named in the list cannot stall the inventory.
-    int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (fd < 0) {
+    tvpolicy::OwnedFd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!fd) {
         return;
     }
-    struct Closer {
-        int fd;
-        ~Closer() { ::close(fd); }
-    } closer{fd};
     // VMX files are a few kilobytes; anything far beyond that is not one.
     constexpr std::size_t limit = 4 * 1024 * 1024;
     std::string text;
-    char buffer[8192];
-    while (text.size() < limit) {
-        ssize_t got = ::read(fd, buffer, sizeof buffer);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
-        if (got <= 0) {
-            break;
-        }
-        text.append(buffer, static_cast<std::size_t>(got));
-    }
+    tvpolicy::readBounded(fd.get(), limit, text);
     std::vector<tvpolicy::parse::VmxEntry> entries = tvpolicy::parse::vmxEntries(text);
     for (const auto& [key, value] : entries) {
         tvi::tslog(std::clog) << "VMX: [" << key << "]=[" << value << "]" << std::endl;

@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 #include "checks/PostureTask.h"
-#include "base/OwnedFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 #include "support/DpkgQuery.h"
 #include "support/NetNamespace.h"
 #include "support/RunCli.h"

@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "io/UniqueFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 
 namespace tvpolicy::cli {
 
@@ -17,27 +17,19 @@ namespace {
 bool readAll(int fd, std::size_t maxBytes, std::string& text, std::string& why)
 {
     std::string content;
-    char buffer[65536];
-    for (;;) {
-        ssize_t count = ::read(fd, buffer, sizeof buffer);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count < 0) {
-            why = std::strerror(errno);
-            return false;
-        }
-        if (count == 0) {
-            break;
-        }
-        if (content.size() + static_cast<std::size_t>(count) > maxBytes) {
-            why = "larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)";
-            return false;
-        }
-        content.append(buffer, static_cast<std::size_t>(count));
+    switch (readBounded(fd, maxBytes, content)) {
+    case ReadEnd::Complete:
+        text = std::move(content);
+        return true;
+    case ReadEnd::OverLimit:
+        why = "larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)";
+        return false;
+    case ReadEnd::WouldBlock:
+    case ReadEnd::Failed:
+        break;
     }
-    text = std::move(content);
-    return true;
+    why = std::strerror(errno);
+    return false;
 }
 
 }  // namespace
@@ -57,7 +49,7 @@ DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
         read.ok = true;
         return read;
     }
-    UniqueFd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    OwnedFd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat info {};
     if (!file || ::fstat(file.get(), &info) != 0) {
         return fail(std::strerror(errno));

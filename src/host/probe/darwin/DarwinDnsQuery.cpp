@@ -19,7 +19,7 @@
 #include <SystemConfiguration/SCSchemaDefinitions.h>
 
 #include "host/parse/DnsMessage.h"
-#include "base/OwnedFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {

@@ -31,7 +31,7 @@
 
 #include "host/parse/MacHardware.h"
 #include "host/probe/InterfaceAddressList.h"
-#include "base/OwnedFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {

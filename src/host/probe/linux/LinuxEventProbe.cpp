@@ -17,7 +17,7 @@
 #include <sys/socket.h>
 
 #include "host/parse/NetlinkMessages.h"
-#include "base/OwnedFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/linux/SdBus.h"
 
 // The address-message parser is OS-neutral and carries the kernel's numbers itself.

@@ -18,7 +18,7 @@
 #include "host/parse/NetText.h"
 #include "host/parse/ProcText.h"
 #include "host/probe/InterfaceAddressList.h"
-#include "base/OwnedFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/linux/NetworkManager.h"
 
 namespace tvpolicy {

@@ -22,7 +22,7 @@
 #include "host/parse/NftRuleset.h"
 #include "host/parse/ProcText.h"
 #include "host/parse/SockDiag.h"
-#include "base/OwnedFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/PosixFiles.h"
 #include "host/probe/linux/SdBus.h"
 
