@@ -94,8 +94,8 @@ class Server {
 public:
     explicit Server(const std::string& policy)
         : port_(freePort()),
-          process_(bench::spawnQuietly({"/usr/bin/python3", examples + "server/server.py", "--port",
-                                        std::to_string(port_), "--policy", policy}))
+          process_(bench::spawnQuietly(
+              {"/usr/bin/python3", examples + "server/server.py", "--port", std::to_string(port_), "--policy", policy}))
     {
         for (int i = 0; i < 200 && !accepting(port_); ++i) {
             std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -112,10 +112,9 @@ private:
 class Agent {
 public:
     Agent(const std::string& server, const std::string& interval, const std::filesystem::path& stateDir)
-        : process_(bench::spawnReadingErrors({TVPOLICY_CLI, "agent", "--allow-http", "--server", server,
-                                               "--interval", interval, "--state-dir", stateDir.string(), "--config",
-                                               "/dev/null"},
-                                              errorFd_))
+        : process_(bench::spawnReadingErrors({TVPOLICY_CLI, "agent", "--allow-http", "--server", server, "--interval",
+                                              interval, "--state-dir", stateDir.string(), "--config", "/dev/null"},
+                                             errorFd_))
     {
         lines_ = errorFd_ >= 0 ? ::fdopen(errorFd_, "r") : nullptr;
     }
@@ -259,8 +258,9 @@ void BM_AgentSoak(benchmark::State& state)
         const long rssLast = residentKilobytes(agent.pid());
         const long fdsLast = descriptors(agent.pid());
         const double perCycle = (cpuMilliseconds(agent.pid()) - cpuFirst) / static_cast<double>(cycles - firstCycles);
-        const double wall = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - clockFirst).count() /
-                            static_cast<double>(cycles - firstCycles);
+        const double wall =
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - clockFirst).count() /
+            static_cast<double>(cycles - firstCycles);
         const double peer = peerRunMilliseconds(policy, 20);
         state.counters["cycles"] = static_cast<double>(cycles);
         state.counters["passed"] = static_cast<double>(passed);

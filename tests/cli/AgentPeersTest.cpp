@@ -21,14 +21,14 @@
 #include "support/RunCli.h"
 #include "support/TempDir.h"
 
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using testing_support::ChildProcess;
 using testing_support::NetNamespace;
 using testing_support::ReferenceServer;
 using testing_support::runCli;
 using testing_support::runProgram;
 using testing_support::TempDir;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using Json = nlohmann::json;
 
 namespace {
@@ -36,8 +36,9 @@ namespace {
 const std::string examples = std::string(TVPOLICY_SOURCE_DIR) + "/examples/";
 
 // A policy that passes anywhere and, unlike the examples, leaves the address renewal on.
-const std::string renewingPolicy = "<policy name='renewing'><section name='Accounts' primary='true'>"
-                                   "<File fileName='passwd' startPath='/etc'/></section></policy>";
+const std::string renewingPolicy =
+    "<policy name='renewing'><section name='Accounts' primary='true'>"
+    "<File fileName='passwd' startPath='/etc'/></section></policy>";
 
 std::vector<std::string> inNamespace(const NetNamespace& ns, std::vector<std::string> argv)
 {
@@ -92,13 +93,13 @@ TEST(AgentDiscovery, TakesTheFirstServerThatAcceptsAndCompletesItFromTxt)
                            {"ip", "netns", "exec", ns.name()});
     ASSERT_TRUE(server.started());
     const std::string port = std::to_string(server.port());
-    ChildProcess dns(inNamespace(
-        ns, {"dnsmasq", "--keep-in-foreground", "--no-resolv", "--no-hosts", "--bind-interfaces",
-             "--listen-address=127.0.0.1", "--port=53", "--pid-file=", "--user=root",
-             "--srv-host=_tvpolicy._tcp.corp.test,refusing.corp.test,9,5,0",
-             "--srv-host=_tvpolicy._tcp.corp.test,taking.corp.test," + port + ",10,0",
-             "--host-record=refusing.corp.test,127.0.0.1", "--host-record=taking.corp.test,127.0.0.1",
-             "--txt-record=_tvpolicy._tcp.corp.test,scheme=http,path=/tvp"}));
+    ChildProcess dns(
+        inNamespace(ns, {"dnsmasq", "--keep-in-foreground", "--no-resolv", "--no-hosts", "--bind-interfaces",
+                         "--listen-address=127.0.0.1", "--port=53", "--pid-file=", "--user=root",
+                         "--srv-host=_tvpolicy._tcp.corp.test,refusing.corp.test,9,5,0",
+                         "--srv-host=_tvpolicy._tcp.corp.test,taking.corp.test," + port + ",10,0",
+                         "--host-record=refusing.corp.test,127.0.0.1", "--host-record=taking.corp.test,127.0.0.1",
+                         "--txt-record=_tvpolicy._tcp.corp.test,scheme=http,path=/tvp"}));
     ASSERT_TRUE(ns.waitFor("getent hosts taking.corp.test")) << "dnsmasq did not answer";
 
     TempDir state;
@@ -155,12 +156,11 @@ TEST_P(AgentWifiJoin, JoinsTheNetworkAndAsksAgain)
     EXPECT_EQ(stored["data"][0].size(), 1u) << "the profile is stored once, however often it is asked for";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Replies, AgentWifiJoin,
-    ::testing::Values(JoinCase{"ThenScans", {"status-1.xml"}, 0, 2},
-                      JoinCase{"TwiceThenScans", {"status-1.xml", "status-2.xml"}, 0, 3},
-                      JoinCase{"AlwaysIsAFailedCycle", {"status.xml"}, 3, 3}),
-    [](const auto& testCase) { return testCase.param.name; });
+INSTANTIATE_TEST_SUITE_P(Replies, AgentWifiJoin,
+                         ::testing::Values(JoinCase{"ThenScans", {"status-1.xml"}, 0, 2},
+                                           JoinCase{"TwiceThenScans", {"status-1.xml", "status-2.xml"}, 0, 3},
+                                           JoinCase{"AlwaysIsAFailedCycle", {"status.xml"}, 3, 3}),
+                         [](const auto& testCase) { return testCase.param.name; });
 
 // A running agent in a namespace of its own, with logind on a private bus, telling each cycle
 // as a JSON line.
@@ -182,9 +182,8 @@ protected:
                                                    std::vector<std::string>{"ip", "netns", "exec", ns.name()});
         ASSERT_TRUE(server->started());
         agent = std::make_unique<ChildProcess>(
-            loggingTo(log, inNamespace(ns, {TVPOLICY_CLI, "agent", "--json", "--allow-http", "--server",
-                                            server->url(), "--state-dir", (dir.path() / "state").string(),
-                                            "--config", "/dev/null"})));
+            loggingTo(log, inNamespace(ns, {TVPOLICY_CLI, "agent", "--json", "--allow-http", "--server", server->url(),
+                                            "--state-dir", (dir.path() / "state").string(), "--config", "/dev/null"})));
         ASSERT_TRUE(waitForCycles(log, 1, std::chrono::seconds(20)));
         // Past the first cycle's burst window, with the notifiers watching.
         std::this_thread::sleep_for(std::chrono::milliseconds(2500));
@@ -231,8 +230,9 @@ TEST_F(AgentEvents, AHardwareAddressChangeStartsACycle)
 
 TEST_F(AgentEvents, ABurstOfAddressChangesIsOneCycle)
 {
-    ASSERT_TRUE(ns.exec("for i in 1 2 3 4 5 6; do ip addr add 10.77.0.$i/32 dev va; sleep 0.1; done; "
-                        "ip addr del 10.77.0.1/32 dev va"));
+    ASSERT_TRUE(
+        ns.exec("for i in 1 2 3 4 5 6; do ip addr add 10.77.0.$i/32 dev va; sleep 0.1; done; "
+                "ip addr del 10.77.0.1/32 dev va"));
     ASSERT_TRUE(waitForCycles(log, 2, std::chrono::seconds(3)));
     std::this_thread::sleep_for(std::chrono::milliseconds(3000));
     EXPECT_THAT(cycleReasons(log), ElementsAre("start", "address change"));
@@ -254,11 +254,11 @@ TEST_P(AgentRenewal, RenewsAfterAPassAndRecordsTheNewAddresses)
     if (!ns.valid()) {
         GTEST_SKIP() << ns.skipReason();
     }
-    ASSERT_TRUE(ns.exec("ip link set lo up && ip link add va type veth peer name vb && "
-                        "ip addr add 10.9.0.1/24 dev va && ip link set va up && ip link set vb up"));
+    ASSERT_TRUE(
+        ns.exec("ip link set lo up && ip link add va type veth peer name vb && "
+                "ip addr add 10.9.0.1/24 dev va && ip link set va up && ip link set vb up"));
     TempDir dir;
-    auto stub = dir.write("bin/networkctl", "#!/bin/sh\nprintf '%s\\n' \"$@\" >> '" +
-                                                (dir.path() / "calls").string() +
+    auto stub = dir.write("bin/networkctl", "#!/bin/sh\nprintf '%s\\n' \"$@\" >> '" + (dir.path() / "calls").string() +
                                                 "'\nip addr add 10.9.0.2/24 dev \"$2\"\n");
     std::filesystem::permissions(stub, std::filesystem::perms::owner_all);
     ReferenceServer server({"--policy", dir.write("policy.xml", GetParam().policy).string()},

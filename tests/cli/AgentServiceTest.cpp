@@ -29,7 +29,9 @@ const std::string examples = std::string(TVPOLICY_SOURCE_DIR) + "/examples/";
 
 class NotifySocket {
 public:
-    explicit NotifySocket(std::string path) : path_(std::move(path)), fd_(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0))
+    explicit NotifySocket(std::string path)
+        : path_(std::move(path)),
+          fd_(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0))
     {
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
@@ -51,7 +53,9 @@ public:
     /// The next message, or nothing when none came in time.
     std::optional<std::string> receive(std::chrono::milliseconds timeout)
     {
-        struct pollfd ready {fd_, POLLIN, 0};
+        struct pollfd ready {
+            fd_, POLLIN, 0
+        };
         if (::poll(&ready, 1, static_cast<int>(timeout.count())) != 1) {
             return std::nullopt;
         }
@@ -95,10 +99,10 @@ TEST_P(AgentServiceManager, TellsReadinessKeepAlivesAndStop)
     ASSERT_TRUE(socket.bound());
     ReferenceServer server({"--policy", examples + "compliant.xml"});
     ASSERT_TRUE(server.started());
-    ChildProcess agent({"sh", "-c", "export NOTIFY_SOCKET='" + socket.path() + "' " + GetParam().environment +
-                                        "; exec \"$0\" \"$@\"",
-                        TVPOLICY_CLI, "agent", "--allow-http", "--server", server.url(), "--state-dir",
-                        (dir.path() / "state").string(), "--config", "/dev/null"});
+    ChildProcess agent(
+        {"sh", "-c", "export NOTIFY_SOCKET='" + socket.path() + "' " + GetParam().environment + "; exec \"$0\" \"$@\"",
+         TVPOLICY_CLI, "agent", "--allow-http", "--server", server.url(), "--state-dir",
+         (dir.path() / "state").string(), "--config", "/dev/null"});
     EXPECT_EQ(socket.receive(std::chrono::seconds(20)), "READY=1");
     ASSERT_TRUE(server.waitForRequests("/agent/report/success", 1, std::chrono::seconds(20)));
     socket.during(std::chrono::milliseconds(250));  // what came during the cycle
@@ -131,12 +135,12 @@ TEST_P(AgentServiceManager, TellsReadinessKeepAlivesAndStop)
     EXPECT_EQ(agent.signalAndWait(0, std::chrono::seconds(1)), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Watchdogs, AgentServiceManager,
-    ::testing::Values(WatchdogCase{"ForThisProcess", "WATCHDOG_USEC=400000 WATCHDOG_PID=$$", true},
-                      WatchdogCase{"WithoutPid", "WATCHDOG_USEC=400000", true},
-                      WatchdogCase{"ForAnotherProcess", "WATCHDOG_USEC=400000 WATCHDOG_PID=1", false},
-                      WatchdogCase{"None", "", false}),
-    [](const auto& testCase) { return testCase.param.name; });
+INSTANTIATE_TEST_SUITE_P(Watchdogs, AgentServiceManager,
+                         ::testing::Values(WatchdogCase{"ForThisProcess", "WATCHDOG_USEC=400000 WATCHDOG_PID=$$", true},
+                                           WatchdogCase{"WithoutPid", "WATCHDOG_USEC=400000", true},
+                                           WatchdogCase{"ForAnotherProcess", "WATCHDOG_USEC=400000 WATCHDOG_PID=1",
+                                                        false},
+                                           WatchdogCase{"None", "", false}),
+                         [](const auto& testCase) { return testCase.param.name; });
 
 }  // namespace
