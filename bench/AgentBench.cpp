@@ -185,6 +185,21 @@ double cpuMilliseconds(pid_t pid)
     return static_cast<double>(user + system) * 1000.0 / static_cast<double>(::sysconf(_SC_CLK_TCK));
 }
 
+// CPU time of the threads `pid` runs now, in milliseconds, to the nanosecond the scheduler
+// counts (a finished thread's time is no longer in it: for a window in which none ends).
+double threadCpuMilliseconds(pid_t pid)
+{
+    double total = 0;
+    std::error_code error;
+    for (auto it = std::filesystem::directory_iterator("/proc/" + std::to_string(pid) + "/task", error);
+         !error && it != std::filesystem::directory_iterator(); it.increment(error)) {
+        unsigned long long nanoseconds = 0;
+        std::ifstream(it->path() / "schedstat") >> nanoseconds;
+        total += static_cast<double>(nanoseconds) / 1e6;
+    }
+    return total;
+}
+
 // The descriptors the agent holds between transfers: the fewest of a few looks, since one may
 // fall in the middle of a request.
 long descriptors(pid_t pid)
@@ -291,10 +306,10 @@ void BM_AgentIdle(benchmark::State& state)
             break;
         }
         std::this_thread::sleep_for(std::chrono::seconds(3));  // the monitors' fetch and the burst window
-        const double before = cpuMilliseconds(agent.pid());
+        const double before = threadCpuMilliseconds(agent.pid());
         std::this_thread::sleep_for(std::chrono::seconds(seconds));
         state.counters["idle_seconds"] = static_cast<double>(seconds);
-        state.counters["idle_cpu_ms"] = cpuMilliseconds(agent.pid()) - before;
+        state.counters["idle_cpu_ms"] = threadCpuMilliseconds(agent.pid()) - before;
         state.counters["rss_kB"] = static_cast<double>(residentKilobytes(agent.pid()));
     }
     std::filesystem::remove_all(stateDir);
