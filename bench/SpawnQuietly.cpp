@@ -4,17 +4,26 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 extern char** environ;
 
 namespace bench {
 
-pid_t spawnQuietly(const std::vector<std::string>& argv)
+namespace {
+
+// Starts `argv` with its standard output on /dev/null and its standard error on `errorFd`
+// (/dev/null when negative).
+pid_t spawnWithError(const std::vector<std::string>& argv, int errorFd)
 {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    if (errorFd >= 0) {
+        posix_spawn_file_actions_adddup2(&actions, errorFd, 2);
+    } else {
+        posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    }
     pid_t pid = -1;
     std::vector<char*> args;
     for (const std::string& arg : argv) {
@@ -25,6 +34,27 @@ pid_t spawnQuietly(const std::vector<std::string>& argv)
         pid = -1;
     }
     posix_spawn_file_actions_destroy(&actions);
+    return pid;
+}
+
+}  // namespace
+
+pid_t spawnQuietly(const std::vector<std::string>& argv) { return spawnWithError(argv, -1); }
+
+pid_t spawnReadingErrors(const std::vector<std::string>& argv, int& errorRead)
+{
+    int fds[2];
+    errorRead = -1;
+    if (::pipe2(fds, O_CLOEXEC) != 0) {
+        return -1;
+    }
+    pid_t pid = spawnWithError(argv, fds[1]);
+    ::close(fds[1]);
+    if (pid < 0) {
+        ::close(fds[0]);
+        return -1;
+    }
+    errorRead = fds[0];
     return pid;
 }
 

@@ -11,6 +11,10 @@ namespace bench {
 /// the pid, or -1.
 pid_t spawnQuietly(const std::vector<std::string>& argv);
 
+/// Starts `argv` like spawnQuietly, but with its standard error on a pipe whose reading end
+/// (close-on-exec, the caller's to close) is put in `errorRead`; the pid, or -1.
+pid_t spawnReadingErrors(const std::vector<std::string>& argv, int& errorRead);
+
 /// Waits for `pid` and returns its wait status.
 int waitFor(pid_t pid);
 

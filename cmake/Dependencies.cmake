@@ -27,7 +27,8 @@ find_package(ICU REQUIRED COMPONENTS uc)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json 3 CONFIG REQUIRED)
 find_package(tomlplusplus 3 CONFIG REQUIRED)
-# The operating system's own libraries, used by the host probe's backend only.
+# The operating system's own libraries, used by the host probe's backend (and, for libsystemd's
+# readiness and watchdog calls, by the agent).
 if(APPLE)
   set(TVPOLICY_PLATFORM_LIBS "-framework CoreFoundation" "-framework IOKit" "-framework SystemConfiguration"
     "-framework Security" objc)

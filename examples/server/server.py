@@ -7,7 +7,8 @@ the one its tests drive. Python 3 standard library only.
 It serves, from a folder (--root) or from single files given on the command line:
 
     GET  /agent/config                 config.xml, or one made up from --login
-    GET  /agent/status                 status.xml, or NEEDS_SCAN for the scan "default"
+    GET  /agent/status                 status-N.xml for the Nth request when there is one, else
+                                       status.xml, else NEEDS_SCAN for the scan "default"
     POST /agent/login                  NEEDS_SCAN when every --login field matches, else AUTH_FAILURE
     GET  /agent/scan?scan=S&uid=U      policies/S.xml, else policy.xml (or --policy)
     POST /agent/report/{init,progress,results}
@@ -16,6 +17,7 @@ It serves, from a folder (--root) or from single files given on the command line
     POST /agent/monitor
     GET  /agent/ping                   the configuration's connection test
 
+With --prefix /P every path is served under /P (/P/agent/config ...) and nothing else is.
 Each policy is served with its report addresses pointing back here, so that an example policy
 never sends the agent anywhere else. Every request is appended to the request log (--log) as one
 JSON object a line; posted results are stored in --results-dir. For tests, answers can be made
@@ -50,6 +52,7 @@ class State:
             self.fail[path] = int(code or 500)
         self.login = dict(pair.split("=", 1) for pair in args.login)
         self.results = 0
+        self.statuses = 0
 
     def record(self, entry):
         if not self.args.log:
@@ -101,7 +104,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
 
     def base(self):
         scheme = "https" if self.server.state.args.cert else "http"
-        return f"{scheme}://{self.headers.get('Host', 'localhost')}"
+        return f"{scheme}://{self.headers.get('Host', 'localhost')}{self.server.state.args.prefix}"
 
     def send(self, code, body=b"", content_type="application/xml", headers=()):
         self.send_response(code)
@@ -127,6 +130,13 @@ class Handler(http.server.BaseHTTPRequestHandler):
         url = urllib.parse.urlsplit(self.path)
         length = int(self.headers.get("Content-Length") or 0)
         body = self.rfile.read(length) if length else b""
+        prefix = state.args.prefix
+        if url.path == "/control" or not prefix:
+            path = url.path
+        elif url.path.startswith(prefix + "/"):
+            path = url.path[len(prefix):]
+        else:
+            path = None
         if url.path == "/control":
             with state.lock:
                 change = json.loads(body or b"{}")
@@ -139,6 +149,9 @@ class Handler(http.server.BaseHTTPRequestHandler):
                       "cookie": self.headers.get("Cookie", ""),
                       "userAgent": self.headers.get("User-Agent", ""),
                       "body": body.decode("utf-8", "replace")})
+        if path is None:
+            return self.send(404, b"not found\n", "text/plain")
+        url = url._replace(path=path)
         with state.lock:
             fail = state.fail.get(url.path)
             stall = url.path in state.stall
@@ -166,7 +179,11 @@ class Handler(http.server.BaseHTTPRequestHandler):
         if path == "/agent/config":
             return self.send(200, state.read("config.xml") or self.made_up_config())
         if path == "/agent/status":
-            return self.send(200, state.read("status.xml") or reply_xml("NEEDS_SCAN"))
+            with state.lock:
+                state.statuses += 1
+                asked = state.statuses
+            text = state.read(f"status-{asked}.xml") or state.read("status.xml")
+            return self.send(200, text or reply_xml("NEEDS_SCAN"))
         if path == "/agent/login":
             given = dict(urllib.parse.parse_qsl(body.decode("utf-8", "replace"), keep_blank_values=True))
             if given != state.login:
@@ -217,6 +234,7 @@ def main():
     parser.add_argument("--bind", default="127.0.0.1")
     parser.add_argument("--port", type=int, default=8080, help="0 picks a free port")
     parser.add_argument("--root", help="the folder of documents")
+    parser.add_argument("--prefix", default="", help="serve everything under this path (/P)")
     parser.add_argument("--policy", help="the policy served for every scan the folder does not hold")
     parser.add_argument("--login", action="append", default=[], metavar="FIELD=VALUE",
                         help="require a login with these field values")
@@ -229,6 +247,7 @@ def main():
     parser.add_argument("--endless", action="append", default=[], metavar="PATH")
     parser.add_argument("--verbose", action="store_true")
     args = parser.parse_args()
+    args.prefix = "/" + args.prefix.strip("/") if args.prefix.strip("/") else ""
 
     server = Server((args.bind, args.port), Handler)
     server.state = State(args)

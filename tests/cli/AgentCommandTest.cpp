@@ -268,22 +268,48 @@ TEST(AgentBrokenServer, NoServerListeningIsUnreached)
     EXPECT_THAT(result.err, HasSubstr("unreached"));
 }
 
-// A stalled request does not hold a stop back.
-TEST(AgentSignals, TermInTheMiddleOfAStalledRequestStopsWithinASecond)
+struct StopCase {
+    std::string name;
+    std::vector<std::string> serverArguments;
+    std::string lastRequest;  // the agent is stopped once the server has seen it
+    std::chrono::milliseconds after;
+};
+
+class AgentStop : public ::testing::TestWithParam<StopCase> {};
+
+// A stop ends what the agent waits for (a stalled request, a backoff) and it exits by itself.
+TEST_P(AgentStop, TermStopsWithinASecond)
 {
-    ReferenceServer server({"--policy", examples + "compliant.xml", "--stall", "/agent/scan"});
+    ReferenceServer server(GetParam().serverArguments);
     ASSERT_TRUE(server.started());
     TempDir state;
     std::vector<std::string> argv = {TVPOLICY_CLI, "agent", "--allow-http", "--server", server.url(), "--state-dir",
                                      (state.path() / "state").string(), "--config", "/dev/null"};
     ChildProcess agent(argv);
-    ASSERT_TRUE(server.waitForRequests("/agent/scan", 1, std::chrono::seconds(20)));
+    ASSERT_TRUE(server.waitForRequests(GetParam().lastRequest, 1, std::chrono::seconds(20)));
+    std::this_thread::sleep_for(GetParam().after);
     auto sent = std::chrono::steady_clock::now();
     std::optional<int> status = agent.signalAndWait(SIGTERM, std::chrono::seconds(3));
     ASSERT_TRUE(status.has_value());
     EXPECT_EQ(*status, 0);
     EXPECT_LT(std::chrono::steady_clock::now() - sent, std::chrono::milliseconds(1000));
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Moments, AgentStop,
+    ::testing::Values(StopCase{"StalledPolicyRequest",
+                               {"--policy", examples + "compliant.xml", "--stall", "/agent/scan"},
+                               "/agent/scan",
+                               std::chrono::milliseconds(0)},
+                      StopCase{"StalledResultsPost",
+                               {"--policy", examples + "compliant.xml", "--stall", "/agent/report/results"},
+                               "/agent/report/results",
+                               std::chrono::milliseconds(0)},
+                      StopCase{"BackoffWait",
+                               {"--fail", "/agent/config=500"},
+                               "/agent/config",
+                               std::chrono::milliseconds(500)}),
+    [](const auto& testCase) { return testCase.param.name; });
 
 // HTTPS: a certificate from a CA given with --cacert is taken; a self-signed one is not.
 TEST(AgentTls, TrustsTheGivenAuthorityOnly)

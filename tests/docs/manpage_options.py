@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Every subcommand that `tvpolicy --help` lists has a section in tvpolicy(1) ("## run",
-"## wifi status"), and every option its --help shows is described in that section.
+"## wifi status"), and every option its --help shows is described in that section, taking a
+value there exactly when it takes one in --help.
 
 Usage: manpage_options.py TVPOLICY MANPAGE.scd
 """
@@ -29,11 +30,15 @@ def block(text, title):
 
 
 def options(text):
-    names = []
+    """Each option's name and whether it takes a value ("--output FILE", not "--json")."""
+    found = []
     for line in block(text, "options"):
         if line.startswith("-"):
-            names += [name for name in line.split()[0].split(",") if name.startswith("-")]
-    return [name for name in names if name not in ("-h", "--help")]
+            # "--once Excludes: --count" names no value: CLI11's notes end in a colon.
+            left = re.split(r"\s{2,}", line)[0].split()
+            takes_value = len(left) > 1 and not left[1].endswith(":")
+            found += [(name, takes_value) for name in left[0].split(",") if name.startswith("-")]
+    return [(name, value) for name, value in found if name not in ("-h", "--help")]
 
 
 def subcommands(text):
@@ -72,13 +77,18 @@ def main():
         if name not in sections:
             faults.append(f"tvpolicy {name}: no section '## {name}' in the manual")
             continue
-        for option in wanted:
+        for option, takes_value in wanted:
             checked += 1
             # On a line of its own that starts with an option, as scdoc's definition lists do,
-            # not merely in a synopsis.
-            pattern = r"^(?:\*-[^*\n]*\*, )*\*" + re.escape(option) + r"\*"
-            if not re.search(pattern, sections[name], re.MULTILINE):
+            # not merely in a synopsis; its value (_FILE_) on the same line.
+            pattern = r"^(?:\*-[^*\n]*\*, )*\*" + re.escape(option) + r"\*(.*)$"
+            found = re.search(pattern, sections[name], re.MULTILINE)
+            if not found:
                 faults.append(f"tvpolicy {name}: {option} is not described in its section")
+            elif ("_" in found.group(1)) != takes_value:
+                faults.append(f"tvpolicy {name}: {option} " + ("takes a value, which the manual does not name"
+                                                               if takes_value else
+                                                               f"takes no value, but the manual gives it{found.group(1)}"))
     for fault in faults:
         print(fault)
     print(f"{checked} options checked")

@@ -229,7 +229,9 @@ CycleReport AgentCycle::scanAndReport(const std::string& url, const std::string&
     if (!verdictUrl.empty()) {
         get(verdictUrl);
     }
-    return ended(counted ? Outcome::passed : Outcome::failed, counted ? "" : "the policy failed");
+    CycleReport report = ended(counted ? Outcome::passed : Outcome::failed, counted ? "" : "the policy failed");
+    report.renewAddress = counted && policy->isRenewIP();
+    return report;
 }
 
 void AgentCycle::deliverPending()

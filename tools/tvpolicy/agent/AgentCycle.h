@@ -25,6 +25,7 @@ struct CycleReport {
     Outcome outcome = Outcome::unreached;
     std::string scan;
     std::string message;  ///< why it did not pass, or what the server said
+    bool renewAddress = false;  ///< the policy passed and asks for the addresses to be renewed
 };
 
 /// One pass of the exchange with the server at `base` (ending in '/'): configuration,

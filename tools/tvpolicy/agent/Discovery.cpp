@@ -22,14 +22,16 @@ using com::torvane::SRVRecord;
 using com::torvane::TXTRecord;
 
 constexpr int connectTimeoutMs = 5000;
+constexpr int stopCheckMs = 100;
 
 struct AddressList {
     addrinfo* first = nullptr;
     ~AddressList() { ::freeaddrinfo(first); }
 };
 
-// True when some address of `host` takes a TCP connection on `port` within the time-out.
-bool accepts(const std::string& host, unsigned port)
+// True when some address of `host` takes a TCP connection on `port` within the time-out; false
+// at once when `stop` turns true while it waits.
+bool accepts(const std::string& host, unsigned port, const std::atomic<bool>& stop)
 {
     addrinfo hints{};
     hints.ai_socktype = SOCK_STREAM;
@@ -49,10 +51,13 @@ bool accepts(const std::string& host, unsigned port)
             continue;
         }
         struct pollfd writable {socket.get(), POLLOUT, 0};
+        int ready = 0;
+        for (int waited = 0; ready == 0 && waited < connectTimeoutMs && !stop; waited += stopCheckMs) {
+            ready = ::poll(&writable, 1, stopCheckMs);
+        }
         int error = 0;
         socklen_t length = sizeof error;
-        if (::poll(&writable, 1, connectTimeoutMs) == 1 &&
-            ::getsockopt(socket.get(), SOL_SOCKET, SO_ERROR, &error, &length) == 0 && error == 0) {
+        if (ready == 1 && ::getsockopt(socket.get(), SOL_SOCKET, SO_ERROR, &error, &length) == 0 && error == 0) {
             return true;
         }
     }
@@ -61,7 +66,8 @@ bool accepts(const std::string& host, unsigned port)
 
 }  // namespace
 
-std::string discoverServer(const std::string& service, const std::string& givenDomain, bool allowHttp, std::string& why)
+std::string discoverServer(const std::string& service, const std::string& givenDomain, bool allowHttp,
+                           const std::atomic<bool>& stop, std::string& why)
 {
     std::string domain = givenDomain.empty() ? tvpolicy::currentHost().dnsDefaultDomain() : givenDomain;
     if (domain.empty()) {
@@ -72,7 +78,10 @@ std::string discoverServer(const std::string& service, const std::string& givenD
     std::string target;
     unsigned port = 0;
     for (const SRVRecord* record : records) {
-        if (accepts(record->getName(), record->getPort())) {
+        if (stop) {
+            break;
+        }
+        if (accepts(record->getName(), record->getPort(), stop)) {
             target = record->getName();
             port = record->getPort();
             break;

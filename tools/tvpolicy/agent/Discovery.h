@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <string>
 
 namespace tvpolicy::cli::agent {
@@ -8,7 +9,8 @@ namespace tvpolicy::cli::agent {
 /// (the search domain when `domain` is empty), in the library's order: the first target that
 /// takes a TCP connection within 5 seconds, completed by the TXT record's `scheme=` (https by
 /// default; http only when `allowHttp`) and `path=` (/ by default). Empty, with `why`, when
-/// none is found.
-std::string discoverServer(const std::string& service, const std::string& domain, bool allowHttp, std::string& why);
+/// none is found, or once `stop` turns true.
+std::string discoverServer(const std::string& service, const std::string& domain, bool allowHttp,
+                           const std::atomic<bool>& stop, std::string& why);
 
 }  // namespace tvpolicy::cli::agent

@@ -25,11 +25,13 @@
 
 #include "commands/Command.h"
 #include "report/PolicyReport.h"
+#include "agent/AddressRenewal.h"
 #include "agent/AgentCycle.h"
 #include "agent/AgentRuntime.h"
 #include "agent/AgentSettings.h"
 #include "agent/AgentState.h"
 #include "agent/Discovery.h"
+#include "agent/ServiceManager.h"
 
 namespace tvpolicy::cli {
 
@@ -45,6 +47,10 @@ constexpr milliseconds firstBackoff{5000};
 constexpr milliseconds longestBackoff{15 * 60 * 1000};
 constexpr milliseconds burstWindow{2000};
 constexpr milliseconds burstSettle{500};
+// After a renewal the addresses are recorded once no change has come for renewalQuiet (at most
+// renewalLongest); the changes it causes start no cycle of their own.
+constexpr milliseconds renewalQuiet{1500};
+constexpr milliseconds renewalLongest{10000};
 
 struct AgentOptions {
     std::string configPath = "/etc/tvpolicy/agent.toml";
@@ -142,6 +148,8 @@ public:
 private:
     bool reload(std::string& error);
     CycleReport cycle(const std::string& reason);
+    Json renewAfterPass(CycleReport& outcome);
+    Wake nextWake(milliseconds timeout);
     void report(const std::string& reason, const std::string& server, const CycleReport& outcome,
                 std::chrono::steady_clock::time_point started);
     milliseconds jittered(milliseconds period);
@@ -158,6 +166,7 @@ private:
     AgentSignals signals_;
     std::mt19937 random_{std::random_device{}()};
     std::atomic<const char*> eventReason_{"event"};
+    bool reloadCarried_ = false;  // a SIGHUP that came while the agent waited for something else
 
     com::torvane::api::IPChangeNotifier ip_;
     std::unique_ptr<com::torvane::api::MACChangeNotifier> mac_;
@@ -241,7 +250,7 @@ CycleReport Agent::cycle(const std::string& reason)
     if (base.empty()) {
         std::string why;
         base = discoverServer(settings_.discover.empty() ? "tvpolicy" : settings_.discover, settings_.domain,
-                              settings_.allowHttp, why);
+                              settings_.allowHttp, signals_.stopFlag(), why);
         if (base.empty()) {
             outcome = CycleReport{Outcome::unreached, "", why};
         }
@@ -251,18 +260,66 @@ CycleReport Agent::cycle(const std::string& reason)
         AgentCycle exchange(settings_, *state_, console_, signals_.stopFlag());
         outcome = exchange.run(base);
     }
+    if (signals_.stopFlag() && (outcome.outcome == Outcome::unreached || outcome.outcome == Outcome::cycleFailed)) {
+        outcome = CycleReport{Outcome::unreached, outcome.scan, "stopped before the cycle ended"};
+    }
     if (outcome.outcome == Outcome::passed || outcome.outcome == Outcome::failed) {
         std::string error;
         Json verdict = {{"verdict", outcomeWord(outcome.outcome)},
                         {"when", isoTime(std::chrono::system_clock::now())},
                         {"server", base},
                         {"scan", outcome.scan}};
+        Json addresses = renewAfterPass(outcome);
+        if (!addresses.is_null()) {
+            verdict["addresses"] = addresses;
+        }
         if (!state_->saveVerdict(verdict, error)) {
             console_.err() << "tvpolicy agent: the verdict was not kept: " << error << '\n';
         }
     }
     report(reason, base, outcome, started);
     return outcome;
+}
+
+// The renewal a passed policy asks for, then the addresses of the renewed interfaces once they
+// have settled (null when there was nothing to renew).
+Json Agent::renewAfterPass(CycleReport& outcome)
+{
+    if (!outcome.renewAddress || signals_.stopFlag()) {
+        return Json();
+    }
+    std::vector<std::string> asked = renewAddresses();
+    if (asked.empty()) {
+        outcome.message = "no interface's address could be renewed";
+        return Json();
+    }
+    const auto deadline = std::chrono::steady_clock::now() + renewalLongest;
+    for (;;) {
+        auto left = std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0) {
+            break;
+        }
+        Wake wake = signals_.wait(std::min(renewalQuiet, left));
+        reloadCarried_ = reloadCarried_ || wake == Wake::reload;
+        if (wake == Wake::timeout || wake == Wake::stop) {
+            break;
+        }
+    }
+    std::string names;
+    for (const std::string& name : asked) {
+        names += (names.empty() ? "" : ", ") + name;
+    }
+    outcome.message = "renewed the address of " + names;
+    return addressesOf(asked);
+}
+
+Wake Agent::nextWake(milliseconds timeout)
+{
+    if (reloadCarried_) {
+        reloadCarried_ = false;
+        return Wake::reload;
+    }
+    return signals_.wait(timeout);
 }
 
 void Agent::report(const std::string& reason, const std::string& server, const CycleReport& outcome,
@@ -320,9 +377,11 @@ void Agent::startWatches()
     watches_.emplace_back([this] { mac_->run(); });
     powerEnabled_ = power_.enable();
     if (powerEnabled_) {
-        power_.connect([this](std::shared_ptr<tvi::PowerChangeState>) {
-            eventReason_ = "wake-up";
-            signals_.notify();
+        power_.connect([this](std::shared_ptr<tvi::PowerChangeState> state) {
+            if (*state == tvi::PoweredOn) {
+                eventReason_ = "wake-up";
+                signals_.notify();
+            }
         });
         watches_.emplace_back([this] { power_.runStandalone(); });
     }
@@ -364,6 +423,15 @@ int Agent::run()
             console_.out() << (*verdict)["verdict"].get<std::string>() << " at " << (*verdict)["when"].get<std::string>()
                            << " (server " << (*verdict)["server"].get<std::string>() << ", scan "
                            << (*verdict)["scan"].get<std::string>() << ")\n";
+            if (verdict->contains("addresses")) {
+                for (const auto& [name, addresses] : (*verdict)["addresses"].items()) {
+                    console_.out() << "  renewed " << name << ':';
+                    for (const auto& address : addresses) {
+                        console_.out() << ' ' << address.get<std::string>();
+                    }
+                    console_.out() << '\n';
+                }
+            }
         }
         return exitPassed;
     }
@@ -398,7 +466,7 @@ int Agent::run()
             if (!monitors_.empty()) {
                 slice = std::min(slice, untilNextMonitor());
             }
-            Wake wake = signals_.wait(slice);
+            Wake wake = nextWake(slice);
             runDueMonitors();
             if (watchdog.count() > 0) {
                 notifyServiceManager("WATCHDOG=1");
@@ -419,7 +487,9 @@ int Agent::run()
                     continue;  // part of the burst that started the last cycle
                 }
                 std::string why = eventReason_.load();
-                if (signals_.wait(burstSettle) == Wake::stop) {
+                Wake settled = signals_.wait(burstSettle);
+                reloadCarried_ = reloadCarried_ || settled == Wake::reload;
+                if (settled == Wake::stop) {
                     continue;
                 }
                 reason = why;

@@ -287,7 +287,7 @@ CommandAction setupRun(CLI::App& app)
     app.add_option("SOURCE", options->source, "The policy: a file, - for standard input, or an http(s) address")
         ->required();
     app.add_flag("--allow-scripts", options->allowScripts,
-                 "Let a policy fetched from an address run the commands it names");
+                 "Let a policy fetched from an address run every command it names (without it, none runs)");
     app.add_flag("--json", options->json, "Print the results as one JSON document (same as --format json)");
     app.add_flag("--trace", options->trace, "Show the evaluation trace");
     app.add_flag("--strict", options->strict,
