@@ -1,6 +1,9 @@
 #include "SpawnQuietly.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <sys/resource.h>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -44,6 +47,30 @@ bool runQuietly(const std::vector<std::string>& argv)
     }
     int status = waitFor(pid);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+double ProcessFigures::medianMs() const
+{
+    std::vector<double> sorted = seconds;
+    std::sort(sorted.begin(), sorted.end());
+    return sorted.empty() ? 0 : sorted[sorted.size() / 2] * 1e3;
+}
+
+int timeProcess(const std::vector<std::string>& argv, ProcessFigures& figures)
+{
+    auto start = std::chrono::steady_clock::now();
+    pid_t pid = spawnQuietly(argv);
+    int status = 0;
+    rusage usage{};
+    pid_t waited = -1;
+    while (pid >= 0 && (waited = ::wait4(pid, &status, 0, &usage)) < 0 && errno == EINTR) {
+    }
+    if (waited != pid || !WIFEXITED(status)) {
+        return -1;
+    }
+    figures.seconds.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    figures.peakKilobytes = std::max(figures.peakKilobytes, usage.ru_maxrss);
+    return WEXITSTATUS(status);
 }
 
 }  // namespace bench

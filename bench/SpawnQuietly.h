@@ -17,4 +17,17 @@ int waitFor(pid_t pid);
 /// Starts `argv` and waits for it: true when it exited with status 0.
 bool runQuietly(const std::vector<std::string>& argv);
 
+/// The wall times and peak memory of the runs of one program.
+struct ProcessFigures {
+    std::vector<double> seconds;
+    long peakKilobytes = 0;
+
+    /// The median wall time in milliseconds (0 without runs).
+    double medianMs() const;
+};
+
+/// Runs `argv` to its end, its output on /dev/null, and adds its wall time and peak memory to
+/// `figures`; its exit status (-1 when it did not run or was killed).
+int timeProcess(const std::vector<std::string>& argv, ProcessFigures& figures);
+
 }  // namespace bench

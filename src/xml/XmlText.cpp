@@ -14,6 +14,18 @@ std::string utf8(const XMLCh* text, XMLSize_t length)
     if (text == nullptr || length == 0 || length > static_cast<XMLSize_t>(INT32_MAX / 3)) {
         return out;
     }
+    // Names and values are mostly ASCII: copied as they are, without the converter.
+    XMLSize_t ascii = 0;
+    while (ascii < length && text[ascii] < 0x80) {
+        ++ascii;
+    }
+    if (ascii == length) {
+        out.resize(length);
+        for (XMLSize_t i = 0; i < length; ++i) {
+            out[i] = static_cast<char>(text[i]);
+        }
+        return out;
+    }
     // An unpaired surrogate becomes U+FFFD; at most three bytes per code unit.
     const auto* units = reinterpret_cast<const UChar*>(text);
     out.resize(3 * length);
@@ -22,6 +34,7 @@ std::string utf8(const XMLCh* text, XMLSize_t length)
     u_strToUTF8WithSub(out.data(), static_cast<std::int32_t>(out.size()), &size, units,
                        static_cast<std::int32_t>(length), 0xFFFD, nullptr, &status);
     out.resize(U_SUCCESS(status) ? static_cast<std::size_t>(size) : 0);
+    out.shrink_to_fit();
     return out;
 }
 
@@ -32,8 +45,22 @@ std::string utf8(const XMLCh* text)
 
 std::string elementName(const XMLCh* localname, const XMLCh* qname, bool& fromQName)
 {
-    fromQName = localname == nullptr || *localname == 0;
-    return utf8(fromQName ? qname : localname);
+    const XMLCh* name = elementNameText(localname, qname);
+    fromQName = name != localname;
+    return utf8(name);
+}
+
+bool equalsAscii(const XMLCh* text, const char* ascii)
+{
+    if (text == nullptr) {
+        return *ascii == 0;
+    }
+    for (; *ascii != 0; ++text, ++ascii) {
+        if (*text != static_cast<XMLCh>(static_cast<unsigned char>(*ascii))) {
+            return false;
+        }
+    }
+    return *text == 0;
 }
 
 Utf16::Utf16(const std::string& text)
