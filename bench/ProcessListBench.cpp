@@ -112,6 +112,8 @@ void BM_RunAbsentProcess_vs_pgrep_and_bare_scan(benchmark::State& state)
     state.counters["bare_scan_ms"] = bare.medianMs();
     state.counters["run_to_pgrep"] = run.medianMs() / pgrep.medianMs();
     state.counters["run_to_bare_scan"] = run.medianMs() / bare.medianMs();
+    state.counters["cpu_run_to_pgrep"] = run.medianCpuMs() / pgrep.medianCpuMs();
+    state.counters["cpu_run_to_bare_scan"] = run.medianCpuMs() / bare.medianCpuMs();
 }
 BENCHMARK(BM_RunAbsentProcess_vs_pgrep_and_bare_scan)->Unit(benchmark::kMillisecond)->Iterations(21);
 

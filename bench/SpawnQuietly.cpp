@@ -49,12 +49,21 @@ bool runQuietly(const std::vector<std::string>& argv)
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-double ProcessFigures::medianMs() const
+namespace {
+
+double medianMillis(std::vector<double> values)
 {
-    std::vector<double> sorted = seconds;
-    std::sort(sorted.begin(), sorted.end());
-    return sorted.empty() ? 0 : sorted[sorted.size() / 2] * 1e3;
+    std::sort(values.begin(), values.end());
+    return values.empty() ? 0 : values[values.size() / 2] * 1e3;
 }
+
+double toSeconds(const timeval& time) { return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6; }
+
+}  // namespace
+
+double ProcessFigures::medianMs() const { return medianMillis(seconds); }
+
+double ProcessFigures::medianCpuMs() const { return medianMillis(cpuSeconds); }
 
 int timeProcess(const std::vector<std::string>& argv, ProcessFigures& figures)
 {
@@ -69,6 +78,7 @@ int timeProcess(const std::vector<std::string>& argv, ProcessFigures& figures)
         return -1;
     }
     figures.seconds.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    figures.cpuSeconds.push_back(toSeconds(usage.ru_utime) + toSeconds(usage.ru_stime));
     figures.peakKilobytes = std::max(figures.peakKilobytes, usage.ru_maxrss);
     return WEXITSTATUS(status);
 }

@@ -3,7 +3,6 @@
 // policy's reader is set up. Exit 0 when the document is well formed.
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 #include <string>
 
@@ -13,6 +12,8 @@
 #include <xercesc/sax2/XMLReaderFactory.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLUni.hpp>
+
+#include "ReadWholeFile.h"
 
 using namespace xercesc;
 
@@ -32,8 +33,7 @@ int main(int argc, char** argv)
         std::cerr << "usage: bare_sax_parse FILE\n";
         return 2;
     }
-    std::ifstream in(argv[1], std::ios::binary);
-    std::string xml((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::string xml = bench::readWholeFile(argv[1]);
     XMLPlatformUtils::Initialize();
     int errors = 0;
     {

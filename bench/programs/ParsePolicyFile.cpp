@@ -9,9 +9,10 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 #include <string>
+
+#include "ReadWholeFile.h"
 
 int main(int argc, char** argv)
 {
@@ -19,8 +20,7 @@ int main(int argc, char** argv)
         std::cerr << "usage: parse_policy_file POLICY SECTIONS [--log FILE]\n";
         return 2;
     }
-    std::ifstream in(argv[1], std::ios::binary);
-    std::string xml((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::string xml = bench::readWholeFile(argv[1]);
     std::ofstream log;
     if (argc == 5) {
         log.open(argv[4], std::ios::trunc);
