@@ -54,7 +54,8 @@ void BM_PolicyParseProcess_vs_BareSaxProcess(benchmark::State& state)
     state.counters["cpu_ratio_log_null"] = discarded.medianCpuMs() / bare.medianCpuMs();
     state.counters["cpu_ratio_log_file"] = logged.medianCpuMs() / bare.medianCpuMs();
     state.counters["bare_peak_MB"] = static_cast<double>(bare.peakKilobytes) * 1024 / 1e6;
-    state.counters["peak_MB"] = static_cast<double>(std::max(discarded.peakKilobytes, logged.peakKilobytes)) * 1024 / 1e6;
+    state.counters["peak_MB"] =
+        static_cast<double>(std::max(discarded.peakKilobytes, logged.peakKilobytes)) * 1024 / 1e6;
     state.counters["peak_to_doc"] = state.counters["peak_MB"] / documentMB;
 }
 BENCHMARK(BM_PolicyParseProcess_vs_BareSaxProcess)->Unit(benchmark::kMillisecond)->Iterations(11);

@@ -27,7 +27,8 @@ int main(int argc, char** argv)
         std::clog.rdbuf(log.rdbuf());
     }
     std::unique_ptr<Policy> policy(Policy::parseFromString(std::move(xml), true));
-    bool read = !policy->getFatalParseError() && policy->getSectionCount() == static_cast<std::uint32_t>(std::atoi(argv[2]));
+    bool read =
+        !policy->getFatalParseError() && policy->getSectionCount() == static_cast<std::uint32_t>(std::atoi(argv[2]));
     std::clog.rdbuf(std::cerr.rdbuf());
     return read ? 0 : 1;
 }

@@ -1,9 +1,9 @@
 #include "base/LogLine.h"
 
+#include <unistd.h>
 #include <cstdio>
 #include <ctime>
 #include <iostream>
-#include <unistd.h>
 
 #include "base/TimestampText.h"
 
@@ -36,11 +36,11 @@ struct Pending {
     std::string line;
     bool lineInUse = false;
     std::string batch;
-    std::ostream* stream = nullptr;   // where `batch` goes
-    std::streambuf* target = nullptr; // its buffer when the batch's first line was gathered
+    std::ostream* stream = nullptr;    // where `batch` goes
+    std::streambuf* target = nullptr;  // its buffer when the batch's first line was gathered
     bool terminal = false;
     int depth = 0;
-    std::time_t second = -1;          // the second `stamp` shows
+    std::time_t second = -1;  // the second `stamp` shows
     std::string stamp;
 
     // Hands the gathered lines to their stream. A stream whose buffer was replaced since gets

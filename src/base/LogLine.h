@@ -74,7 +74,7 @@ private:
     }
 
     std::ostream& stream_;
-    std::string* text_;  // the line being written; null when the stream discards it
+    std::string* text_;                 // the line being written; null when the stream discards it
     std::unique_ptr<std::string> own_;  // its text when this thread was already writing a line
 };
 
