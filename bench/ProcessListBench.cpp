@@ -7,9 +7,12 @@
 #include <benchmark/benchmark.h>
 
 #include <csignal>
+#include <cstdio>
+#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 #include "SpawnQuietly.h"
@@ -83,5 +86,35 @@ void BM_isProcessRunning_absent_peer_pgrep(benchmark::State& state)
     }
 }
 BENCHMARK(BM_isProcessRunning_absent_peer_pgrep)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+// A whole `tvpolicy run` of a policy whose one check is the absent process, against `pgrep -x`
+// and a bare scan of /proc for the same rule (bare_proc_scan), all started as processes and
+// taking turns; the counters are the medians of their wall times and the ratios.
+void BM_RunAbsentProcess_vs_pgrep_and_bare_scan(benchmark::State& state)
+{
+    startCrowd(state);
+    std::string policyPath = "/tmp/tvpolicy-bench-" + std::to_string(::getpid()) + "-process.xml";
+    std::ofstream(policyPath) << "<policy name=\"absent\">\n  <section name=\"absent\" primary=\"true\">\n"
+                              << "    <ProcessExists procName=\"" << absentName << "\"/>\n  </section>\n</policy>\n";
+    bench::ProcessFigures run, pgrep, bare;
+    for (auto _ : state) {
+        // Each says "not found" with status 1.
+        if (bench::timeProcess({TVPOLICY_CLI, "run", policyPath, "-q"}, run) != 1 ||
+            bench::timeProcess({"pgrep", "-x", absentName}, pgrep) != 1 ||
+            bench::timeProcess({TVPOLICY_BARE_PROC_SCAN_PROGRAM, absentName}, bare) != 1) {
+            state.SkipWithError("a program did not answer 'not found'");
+            break;
+        }
+    }
+    std::remove(policyPath.c_str());
+    state.counters["run_ms"] = run.medianMs();
+    state.counters["pgrep_ms"] = pgrep.medianMs();
+    state.counters["bare_scan_ms"] = bare.medianMs();
+    state.counters["run_to_pgrep"] = run.medianMs() / pgrep.medianMs();
+    state.counters["run_to_bare_scan"] = run.medianMs() / bare.medianMs();
+    state.counters["cpu_run_to_pgrep"] = run.medianCpuMs() / pgrep.medianCpuMs();
+    state.counters["cpu_run_to_bare_scan"] = run.medianCpuMs() / bare.medianCpuMs();
+}
+BENCHMARK(BM_RunAbsentProcess_vs_pgrep_and_bare_scan)->Unit(benchmark::kMillisecond)->Iterations(21);
 
 }  // namespace

@@ -1,6 +1,9 @@
 #include "SpawnQuietly.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <sys/resource.h>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -74,6 +77,40 @@ bool runQuietly(const std::vector<std::string>& argv)
     }
     int status = waitFor(pid);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+namespace {
+
+double medianMillis(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.empty() ? 0 : values[values.size() / 2] * 1e3;
+}
+
+double toSeconds(const timeval& time) { return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6; }
+
+}  // namespace
+
+double ProcessFigures::medianMs() const { return medianMillis(seconds); }
+
+double ProcessFigures::medianCpuMs() const { return medianMillis(cpuSeconds); }
+
+int timeProcess(const std::vector<std::string>& argv, ProcessFigures& figures)
+{
+    auto start = std::chrono::steady_clock::now();
+    pid_t pid = spawnQuietly(argv);
+    int status = 0;
+    rusage usage{};
+    pid_t waited = -1;
+    while (pid >= 0 && (waited = ::wait4(pid, &status, 0, &usage)) < 0 && errno == EINTR) {
+    }
+    if (waited != pid || !WIFEXITED(status)) {
+        return -1;
+    }
+    figures.seconds.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    figures.cpuSeconds.push_back(toSeconds(usage.ru_utime) + toSeconds(usage.ru_stime));
+    figures.peakKilobytes = std::max(figures.peakKilobytes, usage.ru_maxrss);
+    return WEXITSTATUS(status);
 }
 
 }  // namespace bench

@@ -1,23 +1,30 @@
 #include <tvpolicy/base/Timestamp.h>
 
-#include <ctime>
 #include <iostream>
+
+#include "base/TimestampText.h"
 
 namespace tvi {
 
-std::string& timestamp(std::string& text, bool prepend)
+void timestampText(std::time_t when, std::string& text)
 {
-    std::time_t now = std::time(nullptr);
     std::tm utc{};
-    if (gmtime_r(&now, &utc) == nullptr) {
+    if (gmtime_r(&when, &utc) == nullptr) {
         std::cout << "Unable to get time" << '\n';
     }
     char buffer[127];
     std::size_t length = std::strftime(buffer, sizeof buffer, "%Y-%m-%d %H:%M:%S UTC :: ", &utc);
+    text.assign(buffer, length);
+}
+
+std::string& timestamp(std::string& text, bool prepend)
+{
     if (prepend) {
-        text.insert(0, buffer, length);
+        std::string stamp;
+        timestampText(std::time(nullptr), stamp);
+        text.insert(0, stamp);
     } else {
-        text.assign(buffer, length);
+        timestampText(std::time(nullptr), text);
     }
     return text;
 }

@@ -55,13 +55,24 @@ std::string fromUtf16(const char16_t* units, std::size_t length)
     if (units == nullptr || length == 0 || length > static_cast<std::size_t>(INT32_MAX / 3)) {
         return out;
     }
-    // At most three bytes per code unit.
+    // Names and values are mostly ASCII: copied as they are, without the converter.
+    std::size_t ascii = 0;
+    while (ascii < length && units[ascii] < 0x80) {
+        ++ascii;
+    }
+    if (ascii == length) {
+        out.assign(units, units + length);
+        return out;
+    }
+    // At most three bytes per code unit; what is not used is given back, since a parsed
+    // document keeps many of these.
     out.resize(3 * length);
     std::int32_t size = 0;
     UErrorCode status = U_ZERO_ERROR;
     u_strToUTF8WithSub(out.data(), static_cast<std::int32_t>(out.size()), &size, reinterpret_cast<const UChar*>(units),
                        static_cast<std::int32_t>(length), replacement, nullptr, &status);
     out.resize(U_SUCCESS(status) ? static_cast<std::size_t>(size) : 0);
+    out.shrink_to_fit();
     return out;
 }
 

@@ -9,6 +9,8 @@
 
 #include <tvpolicy/base/Timestamp.h>
 
+#include "base/LogLine.h"
+
 namespace {
 
 template <typename Container>
@@ -33,9 +35,7 @@ struct PipeCloser {
 
 void debug(std::string message, std::string)
 {
-    std::ostream& log = tvi::tslog(std::clog);
-    log << "Debug: " << message << '\n';
-    log.flush();
+    tvi::LogLine(std::clog) << "Debug: " << message;
 }
 
 void split(std::string& text, std::string& delimiters, std::list<std::string>& tokens)

@@ -11,6 +11,7 @@
 
 #include "checks/DirectoryStream.h"
 #include "checks/TaskAttributes.h"
+#include "base/LogLine.h"
 
 bool McAfeeVirusScanVersionTask::dummy =
     TaskFactory::addTask("McAfeeVirusScanVersionTask", &McAfeeVirusScanVersionTask::create);
@@ -39,7 +40,7 @@ std::string McAfeeVirusScanVersionTask::foundVersion()
     }
     // Plain text order on purpose: the newest is the last name, not the largest number.
     std::sort(candidates.begin(), candidates.end());
-    tvi::tslog(std::cerr) << "Version = " << candidates.front() << std::endl;
+    tvi::LogLine(std::cerr) << "Version = " << candidates.front();
 
     return candidates.back();
 }

@@ -20,6 +20,7 @@
 #include "xml/DomText.h"
 #include "xml/ProblemLog.h"
 #include "xml/XmlText.h"
+#include "base/LogLine.h"
 
 namespace com::torvane::policy {
 
@@ -199,7 +200,7 @@ std::list<Monitor*>* Monitor::parseMonitors(std::string xml)
     auto monitors = std::make_unique<std::list<Monitor*>>();
     tvpolicy::xml::DocumentPtr doc = parseMonitorDocument(xml);
     if (!doc || doc->getDocumentElement() == nullptr) {
-        tvi::tslog(std::cerr) << "No Doc???" << std::endl;
+        tvi::LogLine(std::cerr) << "No Doc???";
         return monitors.release();
     }
     static const XMLCh monitorName[] = u"Monitor";

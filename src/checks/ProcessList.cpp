@@ -4,43 +4,19 @@
 
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/base/Timestamp.h>
+#include "base/LogLine.h"
+#include "host/ProcessNames.h"
 
 namespace com::torvane::api {
 
-namespace {
-
-// The last component of `path`, as basename(3) gives it: trailing slashes do not count, and a
-// path made of slashes only is "/".
-std::string baseName(const std::string& path)
-{
-    std::size_t end = path.find_last_not_of('/');
-    if (end == std::string::npos) {
-        return path.empty() ? std::string(".") : std::string("/");
-    }
-    std::size_t slash = path.rfind('/', end);
-    std::size_t start = slash == std::string::npos ? 0 : slash + 1;
-    return path.substr(start, end + 1 - start);
-}
-
-}  // namespace
-
-bool ProcessList::isProcessRunning(std::string name)
-{
-    for (const auto& process : tvpolicy::currentHost().processTable()) {
-        if (process.executablePath &&
-            (name == baseName(*process.executablePath) || name == process.shortName)) {
-            return true;
-        }
-    }
-    return false;
-}
+bool ProcessList::isProcessRunning(std::string name) { return tvpolicy::currentHost().runsProcessNamed(name); }
 
 void ProcessList::dump()
 {
     for (const auto& process : tvpolicy::currentHost().processTable()) {
-        tvi::tslog(std::clog) << "old: " << process.shortName << std::endl;
+        tvi::LogLine(std::clog) << "old: " << process.shortName;
         if (process.executablePath) {
-            tvi::tslog(std::clog) << "new: " << baseName(*process.executablePath) << std::endl;
+            tvi::LogLine(std::clog) << "new: " << tvpolicy::host::executableName(*process.executablePath);
         }
     }
 }

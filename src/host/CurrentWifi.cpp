@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include <tvpolicy/base/Timestamp.h>
+#include "base/LogLine.h"
 
 namespace tvpolicy {
 
@@ -10,7 +11,7 @@ std::optional<NetworkProbe::WifiStatus> currentWifiStatus(const char* operation)
 {
     std::optional<NetworkProbe::WifiStatus> status = currentNetwork().wifiStatus();
     if (!status) {
-        tvi::tslog(std::clog) << operation << ": no Wi-Fi interface" << std::endl;
+        tvi::LogLine(std::clog) << operation << ": no Wi-Fi interface";
     }
     return status;
 }

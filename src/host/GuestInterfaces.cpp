@@ -15,6 +15,7 @@
 #include <tvpolicy/base/Utilities.h>
 
 #include "host/parse/GuestTools.h"
+#include "base/LogLine.h"
 
 namespace com::torvane::api {
 
@@ -88,12 +89,12 @@ void NetworkInterface::getVBoxGuestInterfaces(NetworkInterfaceMap& interfaces)
             std::size_t adapterIndex = 0;
             for (const std::string& token : words(info)) {
                 std::string raw = tvpolicy::parse::vboxQuotedValue(token);
-                tvi::tslog(std::clog) << "MAC = " << raw << std::endl;
+                tvi::LogLine(std::clog) << "MAC = " << raw;
                 if (raw.empty()) {
                     continue;
                 }
                 std::string mac = tvpolicy::parse::vboxFormattedMAC(raw);
-                tvi::tslog(std::clog) << "Formatted MAC = " << mac << std::endl;
+                tvi::LogLine(std::clog) << "Formatted MAC = " << mac;
                 // Keyed by the address as VBoxManage prints it, not by the formatted MAC.
                 store(interfaces, raw, guest(mac, "VirtualBox", machineIndex, adapterIndex));
                 ++adapterIndex;
@@ -144,7 +145,7 @@ void getAddressesFromVMXFile(const std::string& path, std::vector<std::string>& 
     tvpolicy::readBounded(fd.get(), limit, text);
     std::vector<tvpolicy::parse::VmxEntry> entries = tvpolicy::parse::vmxEntries(text);
     for (const auto& [key, value] : entries) {
-        tvi::tslog(std::clog) << "VMX: [" << key << "]=[" << value << "]" << std::endl;
+        tvi::LogLine(std::clog) << "VMX: [" << key << "]=[" << value << "]";
     }
     for (std::string& address : tvpolicy::parse::vmxAddresses(entries)) {
         macs.push_back(std::move(address));

@@ -10,6 +10,7 @@
 
 #include "host/NotifierSlots.h"
 #include "base/StopLatch.h"
+#include "base/LogLine.h"
 
 namespace com::torvane::api {
 
@@ -49,7 +50,7 @@ void IPChangeNotifier::run(bool once)
         if (watch->wait(timeout) != EventProbe::Wake::Event) {
             return;
         }
-        tvi::tslog(std::clog) << "IP Changed" << std::endl;
+        tvi::LogLine(std::clog) << "IP Changed";
         auto addresses = std::make_shared<std::vector<std::string>>();
         NetworkInterface::getIPAddresses(*addresses);
         tvpolicy::fireGuarded(*this, addresses, "IPChangeNotifier");

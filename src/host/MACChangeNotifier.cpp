@@ -10,6 +10,7 @@
 
 #include "host/NotifierSlots.h"
 #include "base/StopLatch.h"
+#include "base/LogLine.h"
 
 namespace com::torvane::api {
 
@@ -71,7 +72,7 @@ void MACChangeNotifier::run()
         if (stop_->stopped()) {
             return;
         }
-        tvi::tslog(std::clog) << "MAC Changed" << std::endl;
+        tvi::LogLine(std::clog) << "MAC Changed";
         tvpolicy::fireGuarded(*this, keys, "MACChangeNotifier");
     }
 }

@@ -9,6 +9,7 @@
 #include <tvpolicy/host/NetworkInterface.h>
 #include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/base/Utilities.h>
+#include "base/LogLine.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ std::string identityText(const std::optional<std::string>& value)
 std::string Machine::getOSVersion()
 {
     std::string version = withoutNewlines(tvpolicy::currentHost().osProductVersion());
-    tvi::tslog(std::cout) << "Version = " << version << std::endl;
+    tvi::LogLine(std::cout) << "Version = " << version;
     return version;
 }
 

@@ -12,6 +12,7 @@
 #include <tvpolicy/base/Utilities.h>
 
 #include "host/CurrentWifi.h"
+#include "base/LogLine.h"
 
 namespace com::torvane::api {
 
@@ -42,8 +43,8 @@ bool qualifies(const NetworkProbe::AddressEntry& entry, const NetworkProbe::Hard
     if ((entry.flags & tunnelFlags) == tunnelFlags) {
         return true;
     }
-    tvi::tslog(std::clog) << "Skipping interface '" << entry.name << "' isLoopback: " << (loopback ? 1 : 0)
-                          << " flags: 0x" << hex(entry.flags) << std::endl;
+    tvi::LogLine(std::clog) << "Skipping interface '" << entry.name << "' isLoopback: " << (loopback ? 1 : 0)
+                            << " flags: 0x" << hex(entry.flags);
     return false;
 }
 
@@ -68,14 +69,14 @@ std::optional<NetworkProbe::Hardware> admittedHardware(const NetworkProbe& netwo
     for (int attempt = 0; attempt < lookupAttempts && !hardware; ++attempt) {
         hardware = network.interfaceHardware(entry.name);
         if (!hardware) {
-            tvi::tslog(std::clog) << "Skipping interface '" << entry.name << "'" << std::endl;
+            tvi::LogLine(std::clog) << "Skipping interface '" << entry.name << "'";
         }
     }
     if (!hardware) {
         return std::nullopt;
     }
     if (hardware->medium == "Unknown") {
-        tvi::tslog(std::clog) << "medium is unknown; no dictionary found " << std::endl;
+        tvi::LogLine(std::clog) << "medium is unknown; no dictionary found ";
     }
     if (!qualifies(entry, *hardware)) {
         return std::nullopt;
@@ -92,7 +93,7 @@ void setWifiNetwork(NetworkInterface& interface)
     std::string bssid = network ? network->bssid : std::string();
     if (bssid.empty()) {
         bssid = getBSSIDFromAirport();
-        tvi::tslog(std::clog) << "bssid from airport " << bssid << std::endl;
+        tvi::LogLine(std::clog) << "bssid from airport " << bssid;
     }
     normalizeMAC(bssid);
     interface.setBSSID(bssid);

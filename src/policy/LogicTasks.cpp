@@ -17,6 +17,7 @@
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include "policy/LogicEvaluation.h"
+#include "base/LogLine.h"
 
 bool andTask::dummy = TaskFactory::addTask("andTask", &andTask::create);
 bool falseTask::dummy = TaskFactory::addTask("falseTask", &falseTask::create);
@@ -122,7 +123,7 @@ void notTask::setAttribute(Attribute*) {}
 TaskResponse* notTask::perform()
 {
     if (term == nullptr) {
-        tvi::tslog(std::cout) << "notTask: no nested check to invert; the not fails" << std::endl;
+        tvi::LogLine(std::cout) << "notTask: no nested check to invert; the not fails";
         auto* response = new TaskResponse;
         response->message = getType() + "/no nested check";
         passed_ = false;

@@ -66,26 +66,36 @@ std::uint32_t unitAt(const std::string& xml, std::size_t offset, const Layout& l
     return unit;
 }
 
+// The offset of the first (or last) code unit `unit` after the mark; npos when there is none.
+std::size_t findUnit(const std::string& xml, const Layout& layout, char unit, bool lastOne)
+{
+    if (layout.width == 1) {
+        return lastOne ? xml.rfind(unit) : xml.find(unit);
+    }
+    std::size_t found = std::string::npos;
+    for (std::size_t at = layout.mark; at + layout.width <= xml.size(); at += layout.width) {
+        if (unitAt(xml, at, layout) == static_cast<std::uint32_t>(unit)) {
+            found = at;
+            if (!lastOne) {
+                break;
+            }
+        }
+    }
+    return found;
+}
+
 }  // namespace
 
 const XMLCh* trimToMarkup(std::string& xml)
 {
     const Layout layout = layoutOf(xml);
-    const std::size_t none = std::string::npos;
-    std::size_t last = none;
-    for (std::size_t at = layout.mark; at + layout.width <= xml.size(); at += layout.width) {
-        if (unitAt(xml, at, layout) == '>') {
-            last = at;
-        }
-    }
-    if (last != none) {
+    std::size_t last = findUnit(xml, layout, '>', true);
+    if (last != std::string::npos) {
         xml.erase(last + layout.width);
     }
-    for (std::size_t at = layout.mark; at + layout.width <= xml.size(); at += layout.width) {
-        if (unitAt(xml, at, layout) == '<') {
-            xml.erase(layout.mark, at - layout.mark);
-            break;
-        }
+    std::size_t first = findUnit(xml, layout, '<', false);
+    if (first != std::string::npos) {
+        xml.erase(layout.mark, first - layout.mark);
     }
     return layout.unmarked;
 }

@@ -21,6 +21,7 @@
 #include "xml/DocumentLimits.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
+#include "base/LogLine.h"
 
 using namespace xercesc;
 using tvpolicy::xml::utf8;
@@ -56,7 +57,9 @@ Policy* Policy::parseFromString(std::string xml, bool showErrors)
     if (xml.size() > tvpolicy::xml::maxDocumentBytes) {
         return refuseOversized(xml.size(), showErrors);
     }
-    tvi::tslog(std::clog) << xml << std::endl;
+    // A parse logs several lines per element: they reach the log in large writes.
+    tvi::LogBatch batch;
+    tvi::LogLine(std::clog) << xml;
     std::unique_ptr<SAX2XMLReader> reader(XMLReaderFactory::createXMLReader());
     reader->setFeature(XMLUni::fgSAX2CoreNameSpaces, false);
     reader->setFeature(XMLUni::fgXercesSchema, false);
@@ -71,6 +74,7 @@ Policy* Policy::parseFromString(std::string xml, bool showErrors)
 
     const XMLCh* encoding = tvpolicy::policy::trimToMarkup(xml);
     MemBufInputSource source(reinterpret_cast<const XMLByte*>(xml.data()), xml.size(), "policy", false);
+    source.setCopyBufToStream(false);  // `xml` outlives the parse: no second copy of the document
     if (encoding != nullptr) {
         source.setEncoding(encoding);
     }
@@ -90,7 +94,7 @@ Policy* Policy::refuseOversized(std::size_t size, bool showErrors)
 {
     std::string why = "the policy is " + std::to_string(size) + " bytes long, more than the " +
                       std::to_string(tvpolicy::xml::maxDocumentBytes) + " bytes a policy may have";
-    tvi::tslog(std::clog) << "Policy refused unread: " << why << std::endl;
+    tvi::LogLine(std::clog) << "Policy refused unread: " << why;
     auto* policy = new Policy("", nullptr);
     policy->showErrors = showErrors;
     // As a document that could not be read at all: a fatal error at its first line.
@@ -102,8 +106,8 @@ bool Policy::parse()
 {
     std::map<std::string, std::string> parts;
     splitURL(policyUrl, parts);
-    tvi::tslog(std::cout) << "Policy::parse: a policy is read from its text with parseFromString, not from '"
-                          << policyUrl << "'" << std::endl;
+    tvi::LogLine(std::cout) << "Policy::parse: a policy is read from its text with parseFromString, not from '"
+                            << policyUrl << "'";
     fatalParseError = true;
     return false;
 }
@@ -159,11 +163,11 @@ void Policy::addCachedResult(const std::string& key, TaskResponse* response)
 
 void Policy::debug(std::string message)
 {
-    tvi::tslog(std::clog) << message << std::endl;
+    tvi::LogLine(std::clog) << message;
     if (debugFlag) {
         ::debug(message, baseUrl + "Debug.jsp");
         if (debugFile.is_open()) {
-            tvi::tslog(debugFile) << message << std::endl;
+            tvi::LogLine(debugFile) << message;
         }
     }
 }
@@ -195,7 +199,7 @@ void Policy::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qna
     }
     bool fromQName = false;
     std::string element = tvpolicy::xml::elementName(localname, qname, fromQName);
-    tvi::tslog(std::clog) << (fromQName ? "startElement qname = " : "startElement localname = ") << element << std::endl;
+    tvi::LogLine(std::clog) << (fromQName ? "startElement qname = " : "startElement localname = ") << element;
     currentElement = element;
     if (rootElement.empty()) {
         rootElement = element;
@@ -212,7 +216,7 @@ void Policy::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qna
         for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
             std::string attribute = utf8(attributes.getQName(i));
             std::string value = utf8(attributes.getValue(i));
-            tvi::tslog(std::clog) << "name = " << attribute << " value = " << value << std::endl;
+            tvi::LogLine(std::clog) << "name = " << attribute << " value = " << value;
             if (attribute == "name") {
                 name = value;
             } else if (attribute == "base") {
@@ -343,7 +347,7 @@ void Policy::endElement(const XMLCh*, const XMLCh* localname, const XMLCh* qname
     }
     bool fromQName = false;
     std::string element = tvpolicy::xml::elementName(localname, qname, fromQName);
-    tvi::tslog(std::clog) << (fromQName ? "endElement qname = " : "endElement localname = ") << element << std::endl;
+    tvi::LogLine(std::clog) << (fromQName ? "endElement qname = " : "endElement localname = ") << element;
     if (element == "success") {
         inSuccess = false;
     } else if (element == "init") {
@@ -366,7 +370,7 @@ void Policy::endElement(const XMLCh*, const XMLCh* localname, const XMLCh* qname
 void Policy::characters(const XMLCh* chars, const XMLSize_t length)
 {
     std::string text = utf8(chars, length);
-    tvi::tslog(std::clog) << "Chars: " << text << std::endl;
+    tvi::LogLine(std::clog) << "Chars: " << text;
     std::string* container = inSuccess      ? &successUrl
                              : inFailure    ? &failureUrl
                              : inResults    ? &resultsUrl
@@ -417,6 +421,7 @@ void Policy::fatalError(const SAXParseException& exception)
     if (!showErrors) {
         return;
     }
+    tvi::flushLogBatch();
     if (exception.getLineNumber() == 1) {
         fatalErrorMsg = "Unable to read policy.\r\n\r\nPlease check your personal firewall settings and try again.";
         std::cout << "Unable to read policy" << std::flush;

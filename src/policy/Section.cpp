@@ -24,13 +24,18 @@
 #include "policy/ProgressiveParse.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
+#include "base/LogLine.h"
 
 using namespace xercesc;
 using tvpolicy::policy::ParseGuard;
 
 namespace {
 
-bool isComposite(const std::string& element) { return element == "and" || element == "or" || element == "not"; }
+bool isComposite(const XMLCh* element)
+{
+    using tvpolicy::xml::equalsAscii;
+    return equalsAscii(element, "and") || equalsAscii(element, "or") || equalsAscii(element, "not");
+}
 
 bool isWebUrl(const std::string& url)
 {
@@ -117,7 +122,7 @@ void Section::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qn
         }
         source.attributes.push_back(std::move(attribute));
     }
-    if (isComposite(element)) {
+    if (isComposite(tvpolicy::xml::elementNameText(localname, qname))) {
         taskStack.push(task);
     } else if (!taskStack.empty()) {
         taskStack.top()->addTerm(task);
@@ -131,9 +136,10 @@ void Section::endElement(const XMLCh*, const XMLCh* localname, const XMLCh* qnam
     if (!tvpolicy::policy::leaveElement(guard)) {
         return;
     }
-    bool fromQName = false;
-    std::string element = tvpolicy::xml::elementName(localname, qname, fromQName);
-    if (element == "help") {
+    // Compared as the parser gives it: an end tag is only ever matched, never kept.
+    const XMLCh* element = tvpolicy::xml::elementNameText(localname, qname);
+    using tvpolicy::xml::equalsAscii;
+    if (equalsAscii(element, "help")) {
         inHelp = false;
     } else if (isComposite(element) && !taskStack.empty()) {
         Task* done = taskStack.top();
@@ -143,7 +149,7 @@ void Section::endElement(const XMLCh*, const XMLCh* localname, const XMLCh* qnam
         } else {
             addTask(done);
         }
-    } else if (element == "section" && policy != nullptr && policy->reader != nullptr) {
+    } else if (equalsAscii(element, "section") && policy != nullptr && policy->reader != nullptr) {
         policy->reader->setContentHandler(policy);
     }
 }
@@ -197,6 +203,7 @@ void Section::setReadFailureHandler(ReadFailureHandler handler)
 
 void Section::fatalError(const SAXParseException& exception)
 {
+    tvi::flushLogBatch();
     ReadFailureHandler handler;
     {
         std::lock_guard<std::mutex> lock(readFailureMutex);
@@ -238,7 +245,7 @@ void Section::trace(const std::string& message)
     if (policy != nullptr) {
         policy->debug(message);
     } else {
-        tvi::tslog(std::clog) << message << std::endl;
+        tvi::LogLine(std::clog) << message;
     }
 }
 
@@ -290,14 +297,14 @@ void Section::parse(SAX2XMLReader* reader)
     reader->setContentHandler(this);
     reader->setErrorHandler(this);
     if (!isWebUrl(url)) {
-        tvi::tslog(std::cout) << "Section: only http and https addresses are read, not '" << url << "'" << std::endl;
+        tvi::LogLine(std::cout) << "Section: only http and https addresses are read, not '" << url << "'";
         fatalError(failureOf("only http and https addresses are read"));
     }
     try {
         URLInputSource source(tvpolicy::xml::Utf16(url).get());
         tvpolicy::policy::parseProgressively(*reader, source, [&] { return bounds.refused(); });
     } catch (const XMLException& failure) {
-        tvi::tslog(std::cout) << "Section: cannot read '" << url << "': " << tvpolicy::xml::utf8(failure.getMessage()) << std::endl;
+        tvi::LogLine(std::cout) << "Section: cannot read '" << url << "': " << tvpolicy::xml::utf8(failure.getMessage());
         fatalError(SAXParseException(failure.getMessage(), nullptr, nullptr, 0, 0));
     }
     guard = nullptr;

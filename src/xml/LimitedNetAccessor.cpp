@@ -10,6 +10,7 @@
 
 #include "xml/LimitedFetch.h"
 #include "xml/XmlText.h"
+#include "base/LogLine.h"
 
 namespace tvpolicy::xml {
 
@@ -29,7 +30,7 @@ BinInputStream* LimitedNetAccessor::makeNew(const XMLURL& url, const XMLNetHTTPI
     std::string address = utf8(url.getURLText());
     FetchResult fetched = fetchDocument(address, documentFetchLimits());
     if (!fetched.ok) {
-        tvi::tslog(std::cout) << "Cannot fetch " << address << ": " << fetched.error << std::endl;
+        tvi::LogLine(std::cout) << "Cannot fetch " << address << ": " << fetched.error;
         ThrowXML1(NetAccessorException, XMLExcepts::NetAcc_ReadSocket, url.getURLText());
     }
     return new BinMemInputStream(reinterpret_cast<const XMLByte*>(fetched.body.data()), fetched.body.size(),

@@ -5,14 +5,15 @@
 #include <tvpolicy/base/Timestamp.h>
 
 #include "xml/DomText.h"
+#include "base/LogLine.h"
 
 namespace tvpolicy::xml {
 
 // No blank between the line number and "Column: ": the log format is kept as it always was.
 void logParseProblem(const xercesc::SAXParseException& problem)
 {
-    tvi::tslog(std::clog) << nativeText(problem.getMessage()) << " Line: " << problem.getLineNumber()
-                          << "Column: " << problem.getColumnNumber() << std::endl;
+    tvi::LogLine(std::clog) << nativeText(problem.getMessage()) << " Line: " << problem.getLineNumber()
+                            << "Column: " << problem.getColumnNumber();
 }
 
 }  // namespace tvpolicy::xml

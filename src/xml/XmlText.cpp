@@ -19,8 +19,22 @@ std::string utf8(const XMLCh* text)
 
 std::string elementName(const XMLCh* localname, const XMLCh* qname, bool& fromQName)
 {
-    fromQName = localname == nullptr || *localname == 0;
-    return utf8(fromQName ? qname : localname);
+    const XMLCh* name = elementNameText(localname, qname);
+    fromQName = name != localname;
+    return utf8(name);
+}
+
+bool equalsAscii(const XMLCh* text, const char* ascii)
+{
+    if (text == nullptr) {
+        return *ascii == 0;
+    }
+    for (; *ascii != 0; ++text, ++ascii) {
+        if (*text != static_cast<XMLCh>(static_cast<unsigned char>(*ascii))) {
+            return false;
+        }
+    }
+    return *text == 0;
 }
 
 Utf16::Utf16(const std::string& text)

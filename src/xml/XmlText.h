@@ -18,6 +18,15 @@ std::string utf8(const XMLCh* text, XMLSize_t length);
 /// name is empty. `fromQName` tells which was taken.
 std::string elementName(const XMLCh* localname, const XMLCh* qname, bool& fromQName);
 
+/// Whether a Xerces text is exactly the ASCII text `ascii`, compared without converting it.
+bool equalsAscii(const XMLCh* text, const char* ascii);
+
+/// The name elementName() would convert: the local name, or the qualified name when it is empty.
+inline const XMLCh* elementNameText(const XMLCh* localname, const XMLCh* qname)
+{
+    return localname == nullptr || *localname == 0 ? qname : localname;
+}
+
 /// A UTF-8 text as a Xerces string, owned for as long as this lives.
 class Utf16 {
 public:

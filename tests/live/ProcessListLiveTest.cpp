@@ -2,11 +2,13 @@
 // a binary under a name of our own is found by that name and by the short name the kernel
 // keeps of it, and no longer once it has exited.
 #include <tvpolicy/checks/ProcessList.h>
+#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/policy/Task.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <filesystem>
 #include <iostream>
@@ -110,6 +112,58 @@ TEST_F(ProcessListLiveTest, DumpShowsBothNamesOfTheChild)
     std::string text = log.text();
     EXPECT_NE(text.find(" UTC :: old: " + name.substr(0, 15) + "\n"), std::string::npos);
     EXPECT_NE(text.find(" UTC :: new: " + name + "\n"), std::string::npos);
+}
+
+// The Linux backend reads each process's executable link first and its short name only where
+// that can still decide; it answers as the rule over the whole table does, also for a process
+// started through a symbolic link (short name and executable differ) and for one whose
+// executable was deleted.
+TEST_F(ProcessListLiveTest, NamedSearchAnswersAsTheWholeTable)
+{
+    std::string linkName = "l" + std::to_string(::getpid()) + "-tvp-link-to-sleeper";
+    std::filesystem::path link = dir.path() / linkName;
+    std::filesystem::create_symlink(path, link);
+    std::filesystem::path doomed = dir.path() / ("d" + name);
+    std::filesystem::copy_file(path, doomed);
+    ChildProcess throughLink({link.string(), "300"});
+    ChildProcess deleted({doomed.string(), "300"});
+    std::filesystem::remove(doomed);
+    struct Case {
+        std::string query;
+        bool running;
+    };
+    const Case cases[] = {
+        {name, true},                       // the executable's file name, behind the link
+        {linkName.substr(0, 15), true},     // the short name, taken from the link
+        {linkName, false},                  // neither: the link is not the executable
+        {"d" + name, true},                 // a deleted executable still has its name
+        {("d" + name).substr(0, 15), true},
+        {"tvp-no-such-prc", false},
+        {"", false},
+    };
+    const tvpolicy::HostProbe& host = tvpolicy::currentHost();
+    auto table = host.processTable();
+    for (const Case& c : cases) {
+        EXPECT_EQ(host.runsProcessNamed(c.query), c.running) << c.query;
+        bool inTable = std::any_of(table.begin(), table.end(), [&](const auto& p) {
+            return p.executablePath && (p.shortName == c.query ||
+                                        std::filesystem::path(*p.executablePath).filename() == c.query);
+        });
+        EXPECT_EQ(inTable, c.running) << "the whole table, " << c.query;
+    }
+}
+
+// The counts read from the executable links alone agree with the whole table.
+TEST(ProcessListLive, CountsAgreeWithTheTable)
+{
+    const tvpolicy::HostProbe& host = tvpolicy::currentHost();
+    auto counts = host.processCounts();
+    auto table = host.processTable();
+    auto withheld = std::count_if(table.begin(), table.end(), [](const auto& p) { return p.executableWithheld; });
+    EXPECT_EQ(counts.withheld, static_cast<std::size_t>(withheld));
+    // Other programs start and end between the two readings.
+    EXPECT_NEAR(static_cast<double>(counts.total), static_cast<double>(table.size()), 0.1 * table.size() + 5);
+    EXPECT_GT(counts.total, 1u);
 }
 
 TEST(ProcessListLive, FindsThisTestProgram)

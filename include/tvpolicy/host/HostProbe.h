@@ -107,6 +107,20 @@ public:
     /// The record of installed applications, read afresh; Format::None (what this base class
     /// answers) when the host has none.
     virtual ApplicationListing applicationListing() const;
+
+    /// How many processes there are, and how many of them withhold their executable's path.
+    struct ProcessCounts {
+        std::size_t total = 0;
+        std::size_t withheld = 0;
+    };
+    /// The counts of the process table, read afresh: from processTable(), or by the system's
+    /// backend from only what the counts need.
+    ProcessCounts processCounts() const;
+
+    /// Whether a process runs whose executable path can be read and whose short name, or the
+    /// file name of whose executable, is `name`: looked up in processTable(), or by the system's
+    /// backend reading of each process only what decides it, up to the first match.
+    bool runsProcessNamed(const std::string& name) const;
 };
 
 /// The probe in use on this thread's process: the real backend unless a ScopedHost is alive.

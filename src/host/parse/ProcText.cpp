@@ -10,14 +10,16 @@ std::string procCommName(const std::string& raw)
     return raw;
 }
 
-std::string procExeTarget(const std::string& raw)
+std::string_view procExeTargetView(std::string_view raw)
 {
-    static const std::string deleted = " (deleted)";
-    if (raw.size() > deleted.size() && raw.compare(raw.size() - deleted.size(), deleted.size(), deleted) == 0) {
-        return raw.substr(0, raw.size() - deleted.size());
+    constexpr std::string_view deleted = " (deleted)";
+    if (raw.size() > deleted.size() && raw.substr(raw.size() - deleted.size()) == deleted) {
+        raw.remove_suffix(deleted.size());
     }
     return raw;
 }
+
+std::string procExeTarget(const std::string& raw) { return std::string(procExeTargetView(raw)); }
 
 std::string sysfsValue(const std::string& raw)
 {

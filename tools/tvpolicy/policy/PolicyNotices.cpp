@@ -87,13 +87,12 @@ std::vector<Notice> hostNotices(Policy& policy)
     if (!checksProcesses) {
         return {};
     }
-    auto table = tvpolicy::currentHost().processTable();
-    auto withheld = std::count_if(table.begin(), table.end(), [](const auto& p) { return p.executableWithheld; });
-    if (withheld == 0) {
+    auto counts = tvpolicy::currentHost().processCounts();
+    if (counts.withheld == 0) {
         return {};
     }
     return {{"partial-process-table", false, 0, "",
-             std::to_string(withheld) + " of " + std::to_string(table.size()) +
+             std::to_string(counts.withheld) + " of " + std::to_string(counts.total) +
                  " processes could not be read fully (their executable paths are withheld from this user, as "
                  "for other users' processes without privilege): a process check may miss them"}};
 }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include <dirent.h>
@@ -16,6 +17,7 @@
 
 #include <tvpolicy/base/Utilities.h>
 
+#include "host/ProcessNames.h"
 #include "host/parse/OsRelease.h"
 #include "host/parse/ProcText.h"
 #include "host/probe/PosixFiles.h"
@@ -44,6 +46,47 @@ bool isPid(const char* name)
     }
     return true;
 }
+
+// The path of a file in a process's folder, relative to /proc.
+class ProcFile {
+public:
+    const char* path(const char* pid, const char* file)
+    {
+        std::snprintf(path_, sizeof path_, "%s/%s", pid, file);
+        return path_;
+    }
+
+private:
+    char path_[sizeof(dirent::d_name) + 8];
+};
+
+// The target of a process's exe link, read once.
+class ExeLink {
+public:
+    ExeLink(int procFd, const char* path) : procFd_(procFd), path_(path) {}
+
+    // True when the link was read: target() then holds the executable's path.
+    bool read()
+    {
+        ssize_t length = ::readlinkat(procFd_, path_, target_, sizeof target_);
+        withheld_ = length < 0 && (errno == EACCES || errno == EPERM);
+        if (length <= 0 || static_cast<std::size_t>(length) >= sizeof target_) {
+            return false;
+        }
+        view_ = parse::procExeTargetView(std::string_view(target_, static_cast<std::size_t>(length)));
+        return true;
+    }
+    std::string_view target() const { return view_; }
+    // The link exists but this user may not read it.
+    bool withheld() const { return withheld_; }
+
+private:
+    int procFd_;
+    const char* path_;
+    char target_[4096];
+    std::string_view view_;
+    bool withheld_ = false;
+};
 
 // Single-quotes `text` for the shell, so that a URL is one argument whatever it holds.
 std::string shellQuoted(const std::string& text)
@@ -116,38 +159,78 @@ HostProbe::HardwareIdentity LinuxHostProbe::hardwareIdentity() const
     return identity;
 }
 
+template <typename Visit>
+void LinuxHostProbe::forEachProcess(Visit visit) const
+{
+    std::unique_ptr<DIR, DirCloser> proc(::opendir((root_ + "/proc").c_str()));
+    if (!proc) {
+        return;
+    }
+    const int procFd = ::dirfd(proc.get());
+    while (const dirent* entry = ::readdir(proc.get())) {
+        if (isPid(entry->d_name) && !visit(procFd, entry->d_name)) {
+            return;
+        }
+    }
+}
+
 std::vector<HostProbe::ProcessEntry> LinuxHostProbe::processTable() const
 {
     std::vector<ProcessEntry> table;
-    std::unique_ptr<DIR, DirCloser> proc(::opendir((root_ + "/proc").c_str()));
-    if (!proc) {
-        return table;
-    }
-    const int procFd = ::dirfd(proc.get());
     std::string comm;
-    char path[sizeof(dirent::d_name) + 8];
-    char target[4096];
-    while (const dirent* entry = ::readdir(proc.get())) {
-        if (!isPid(entry->d_name)) {
-            continue;
-        }
-        std::snprintf(path, sizeof path, "%s/comm", entry->d_name);
-        if (!readAt(procFd, path, 256, comm)) {
-            continue;  // ended since the folder was listed
+    ProcFile file;
+    forEachProcess([&](int procFd, const char* pid) {
+        if (!readAt(procFd, file.path(pid, "comm"), 256, comm)) {
+            return true;  // ended since the folder was listed
         }
         ProcessEntry process;
-        process.pid = std::strtol(entry->d_name, nullptr, 10);
+        process.pid = std::strtol(pid, nullptr, 10);
         process.shortName = parse::procCommName(comm);
-        std::snprintf(path, sizeof path, "%s/exe", entry->d_name);
-        ssize_t length = ::readlinkat(procFd, path, target, sizeof target);
-        if (length > 0 && static_cast<std::size_t>(length) < sizeof target) {
-            process.executablePath = parse::procExeTarget(std::string(target, static_cast<std::size_t>(length)));
-        } else if (length < 0 && (errno == EACCES || errno == EPERM)) {
-            process.executableWithheld = true;
+        ExeLink exe(procFd, file.path(pid, "exe"));
+        if (exe.read()) {
+            process.executablePath = std::string(exe.target());
         }
+        process.executableWithheld = exe.withheld();
         table.push_back(std::move(process));
-    }
+        return true;
+    });
     return table;
+}
+
+HostProbe::ProcessCounts LinuxHostProbe::scanCounts() const
+{
+    ProcessCounts counts;
+    ProcFile file;
+    forEachProcess([&](int procFd, const char* pid) {
+        ExeLink exe(procFd, file.path(pid, "exe"));
+        // A kernel thread has no executable; a process that ended since the listing neither.
+        if (exe.read() || exe.withheld() || ::faccessat(procFd, pid, F_OK, 0) == 0) {
+            ++counts.total;
+            counts.withheld += exe.withheld() ? 1 : 0;
+        }
+        return true;
+    });
+    return counts;
+}
+
+bool LinuxHostProbe::scanForName(const std::string& name) const
+{
+    // The kernel keeps at most 15 bytes of a short name: a longer name matches executables only.
+    const bool shortNameCanMatch = name.size() <= 15;
+    bool found = false;
+    std::string comm;
+    ProcFile file;
+    forEachProcess([&](int procFd, const char* pid) {
+        ExeLink exe(procFd, file.path(pid, "exe"));
+        if (!exe.read()) {
+            return true;  // a process whose executable cannot be read never matches
+        }
+        found = host::isExecutableNamed(exe.target(), name) ||
+                (shortNameCanMatch && readAt(procFd, file.path(pid, "comm"), 256, comm) &&
+                 parse::procCommName(comm) == name);
+        return !found;
+    });
+    return found;
 }
 
 std::string LinuxHostProbe::dnsFlushCommand() const
