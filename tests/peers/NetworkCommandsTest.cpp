@@ -214,3 +214,36 @@ TEST(DiscoverCommand, UsesTheSystemsResolverAndSearchDomain)
 }
 
 }  // namespace
+
+namespace {
+
+// An include that cannot be read ends the run with 3 and the cause, never the reader's "unable
+// to read from socket".
+TEST(RunIncludes, NameTheCauseOfAFailedFetch)
+{
+    peers::HttpPeer plain;
+    peers::HttpPeer tls(true);
+    struct Case {
+        std::string url;
+        std::string cause;
+    };
+    const std::vector<Case> cases = {
+        {plain.url("/status/404"), "the server answered with status 404"},
+        {plain.url("/status/503"), "the server answered with status 503"},
+        {plain.url("/moved"), "the server answered with status 302, a redirect to " + plain.url("/echo") +
+                                  " that is not followed"},
+        {plain.url("/endless"), "the document is larger than 16777216 bytes"},
+        {tls.url("/echo"), "the server's certificate is not trusted ("},
+    };
+    for (const Case& c : cases) {
+        testing_support::TempDir dir;
+        auto policy = dir.write("p.xml", "<policy name=\"p\">\n<include id=\"remote\" url=\"" + c.url + "\"/>\n</policy>\n");
+        auto result = runCli({"run", policy.string(), "-q"});
+        EXPECT_EQ(result.exitCode, 3) << c.url << ": " << result.err;
+        EXPECT_NE(result.err.find("cannot read the included section at " + c.url + ": " + c.cause), std::string::npos)
+            << result.err;
+        EXPECT_EQ(result.err.find("socket"), std::string::npos) << result.err;
+    }
+}
+
+}  // namespace
