@@ -155,6 +155,8 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
         "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,20",
         "--srv-host=_agent._tcp.corp.test,z.corp.test,8443,1,99",
         "--txt-record=_agent._tcp.corp.test,server=a.corp.test,port=443",
+        "--auth-zone=corp.test",
+        "--auth-server=ns.corp.test",
     });
     auto result = runCli({"discover", "agent", "--domain", "corp.test", "--server", dns.address()});
     EXPECT_EQ(result.exitCode, 0) << result.err;
@@ -168,6 +170,7 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
     ASSERT_EQ(shown["srv"].size(), 3u);
     EXPECT_EQ(shown["srv"][1], (nlohmann::json{{"priority", 10}, {"weight", 20}, {"port", 443}, {"target", "a.corp.test"}}));
     EXPECT_EQ(shown["txt"], (nlohmann::json{"server=a.corp.test", "port=443"}));
+    EXPECT_EQ(shown["error"], nullptr);
 
     struct Case {
         std::vector<std::string> args;
@@ -184,6 +187,42 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
         result = runCli(c.args);
         EXPECT_EQ(result.exitCode, c.exitCode) << c.args.back() << ": " << result.err;
         EXPECT_EQ(result.out, "");
+    }
+}
+
+// Nothing found says why: the name server answered that there is no such name or record (1),
+// or it gave no usable answer (3), in words and as the JSON "error".
+TEST(DiscoverCommand, TellsNoRecordsFromNoAnswer)
+{
+    peers::Dnsmasq authoritative({"--auth-zone=corp.test", "--auth-server=ns.corp.test",
+                                  "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,20"});
+    peers::Dnsmasq forwarder({});  // no upstream: it refuses what it does not hold
+    peers::SilentNameServer silent;
+    struct Case {
+        std::string title;
+        std::string service;
+        std::string server;
+        int exitCode;
+        std::string error;
+        std::string inMessage;
+    };
+    const std::vector<Case> cases = {
+        {"NoSuchName", "other", authoritative.address(), 1, "no-such-name", "answered: there is no name _other._tcp.corp.test"},
+        {"Refused", "agent", forwarder.address(), 3, "no-answer", "refused or failed the question"},
+        {"NothingListening", "agent", "127.0.0.1:1", 3, "no-answer", "refused or failed"},
+        {"Silent", "agent", silent.address(), 3, "no-answer", "no answer from the name server " + silent.address() +
+         " within 5 s"},
+    };
+    for (const Case& c : cases) {
+        auto text = runCli({"discover", c.service, "--domain", "corp.test", "--server", c.server});
+        EXPECT_EQ(text.exitCode, c.exitCode) << c.title << ": " << text.err;
+        EXPECT_EQ(text.out, "") << c.title;
+        EXPECT_NE(text.err.find(c.inMessage), std::string::npos) << c.title << ": " << text.err;
+        auto json = runCli({"discover", c.service, "--domain", "corp.test", "--server", c.server, "--json"});
+        EXPECT_EQ(json.exitCode, c.exitCode) << c.title;
+        auto shown = nlohmann::json::parse(json.out);
+        EXPECT_EQ(shown["error"], c.error) << c.title;
+        EXPECT_NE(shown.value("message", "").find(c.inMessage), std::string::npos) << c.title << ": " << json.out;
     }
 }
 
