@@ -118,7 +118,7 @@ int deliver(const RunOptions& options, const Json& report, const std::string& tr
         bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
         format = options.json || (toFile && jsonName) ? "json" : "text";
     }
-    TextStyle style{!toFile && colourWanted(console.outFd(), options.noColor)};
+    TextStyle style{!toFile && colourWanted(console.outFd(), options.noColor), options.trace || console.libraryShown()};
     std::ostringstream body;
     if (format == "json") {
         body << report.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
