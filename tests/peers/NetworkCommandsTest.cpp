@@ -57,8 +57,8 @@ TEST(HttpCommand, PostJsonShowsTheSixKeysWithTheServersCookie)
     EXPECT_EQ(shown.size(), 6u);
     EXPECT_EQ(shown["cookie"], "session=abc; Path=/");
     EXPECT_EQ(shown["contents"], "hello");
-    EXPECT_EQ(shown["responseCode"], "200");
-    EXPECT_EQ(shown["verifyResult"], "0");
+    EXPECT_EQ(shown["responseCode"], 200);
+    EXPECT_EQ(shown["verifyResult"], 0);
     EXPECT_EQ(shown["error"], "");
     EXPECT_EQ(server.seen().body, "k=v");
     EXPECT_EQ(server.seen().header("Cookie"), "sid=1");
@@ -75,6 +75,49 @@ TEST(HttpCommand, ReportsAnUntrustedCertificate)
     auto shown = nlohmann::json::parse(post.out);
     EXPECT_NE(shown["verifyResult"], "0");
     EXPECT_NE(shown["error"].get<std::string>().find("certificate"), std::string::npos) << post.out;
+}
+
+// Redirects are told and followed only when asked; a private CA is trusted with --cacert; a
+// post's body comes from a file with @FILE; the status is a number in every JSON form.
+TEST(HttpCommand, OptionsOfANewUser)
+{
+    peers::HttpPeer plain;
+    peers::HttpPeer tls(true);
+    testing_support::TempDir dir;
+    auto body = dir.write("body.txt", "from=file&x=1");
+    struct Case {
+        std::vector<std::string> args;
+        int exitCode;
+        std::string out;
+        std::string errPart;
+        std::string bodySeen;  // by the plain server, when not empty
+    };
+    const std::vector<Case> cases = {
+        {{"get", plain.url("/moved")}, 1, "moved",
+         plain.url("/moved") + " answered 302, a redirect to " + plain.url("/echo") + ": not followed (-L follows it)", ""},
+        {{"get", plain.url("/moved"), "-L"}, 0, "hello", "a redirect to " + plain.url("/echo") + ": following it", ""},
+        {{"head", plain.url("/moved"), "-L"}, 2, "", "-L follows the redirects of get only", ""},
+        {{"get", tls.url("/echo"), "--cacert", peers::HttpPeer::certificateFile()}, 0, "hello", "", ""},
+        {{"get", tls.url("/echo"), "--cacert", "/no/such.pem"}, 2, "", "--cacert", ""},
+        {{"post", plain.url("/echo"), "--data", "@" + body.string()}, 0, "hello", "", "from=file&x=1"},
+        {{"post", plain.url("/echo"), "--data", "@/no/such/body"}, 2, "", "cannot read '/no/such/body'", ""},
+    };
+    for (const Case& c : cases) {
+        std::vector<std::string> args = {"http"};
+        args.insert(args.end(), c.args.begin(), c.args.end());
+        auto result = runCli(args);
+        EXPECT_EQ(result.exitCode, c.exitCode) << c.args[1] << ": " << result.err;
+        EXPECT_EQ(result.out, c.out) << c.args[1];
+        EXPECT_NE(result.err.find(c.errPart), std::string::npos) << c.args[1] << ": " << result.err;
+        if (!c.bodySeen.empty()) {
+            EXPECT_EQ(plain.seen().body, c.bodySeen);
+        }
+    }
+    for (const char* operation : {"get", "head", "post"}) {
+        auto shown = nlohmann::json::parse(runCli({"http", operation, plain.url("/status/404"), "--json"}).out);
+        EXPECT_EQ(shown["responseCode"], 404) << operation;
+        EXPECT_TRUE(shown["verifyResult"].is_number()) << operation;
+    }
 }
 
 TEST(HttpCommand, DownloadsIntoAFile)
