@@ -103,6 +103,31 @@ TEST(Cli, APolicyOverTheReadersLimitSaysSo)
     EXPECT_EQ(result.err.find("not XML"), std::string::npos) << result.err;
 }
 
+// "Reports to:" shows the addresses the policy declares, not the base the library answers for
+// every other one.
+TEST(Cli, ReportsToListsOnlyDeclaredAddresses)
+{
+    testing_support::TempDir dir;
+    struct Case {
+        std::string declared;
+        std::string shown;  // the block, empty when none
+    };
+    const std::vector<Case> cases = {
+        {"", ""},
+        {"<results><url>/r</url></results>", "Reports to:\n  results: http://nac.example.test//r\n"},
+        {"<success><url>http://other.test/ok</url></success><init><url>i</url></init>",
+         "Reports to:\n  success: http://other.test/ok\n  init: http://nac.example.test/i\n"},
+    };
+    for (const Case& c : cases) {
+        auto policy = dir.write("p.xml", "<policy name=\"p\" base=\"http://nac.example.test/\"><section name=\"s\" "
+                                         "primary=\"true\"><true/></section>" + c.declared + "</policy>");
+        auto result = runCli({"run", policy.string(), "-q"});
+        std::size_t block = result.out.find("Reports to:");
+        std::size_t end = result.out.find("\n\n", block);
+        EXPECT_EQ(block == std::string::npos ? "" : result.out.substr(block, end - block + 1), c.shown) << result.out;
+    }
+}
+
 TEST(Cli, LogFileTakesTheLibrarysLinesAndAppends)
 {
     testing_support::TempDir dir;

@@ -404,9 +404,12 @@ void printSwitches(const Json& switches, std::ostream& out)
         }
         out << '\n';
     }
+    // The library answers the base address for a report the policy does not declare; only the
+    // declared ones are shown.
     bool heading = false;
+    const std::string base = switches["baseUrl"].get<std::string>();
     for (const auto& [name, url] : switches["reportUrls"].items()) {
-        if (!url.get<std::string>().empty()) {
+        if (!url.get<std::string>().empty() && url.get<std::string>() != base) {
             out << (heading ? "" : "Reports to:\n") << "  " << name << ": " << url.get<std::string>() << '\n';
             heading = true;
         }
