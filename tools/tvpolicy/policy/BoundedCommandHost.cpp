@@ -144,8 +144,15 @@ std::string BoundedCommandHost::commandOutput(const std::string& command, unsign
         }
     }
     if (stopSignal != 0) {
-        // Asked to stop while the command ran: its group is gone; the program ends as asked.
-        ::signal(stopSignal, SIG_DFL);
+        // Asked to stop while the command ran: its group is gone; the signal goes on to the
+        // handler from before the command (the progress bar's, which erases the bar and ends the
+        // program), or ends the program by default (also when it was ignored, as it is for a
+        // background job: a signal that ended the command ends the run too).
+        struct sigaction before {};
+        ::sigaction(stopSignal, nullptr, &before);
+        if (before.sa_handler == SIG_IGN) {
+            ::signal(stopSignal, SIG_DFL);
+        }
         ::raise(stopSignal);
     }
     return output;

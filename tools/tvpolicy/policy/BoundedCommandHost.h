@@ -14,7 +14,8 @@ namespace tvpolicy::cli {
 /// VersionFromScript script) runs in a process group of its own, with standard input from
 /// /dev/null, for at most `timeout`. A command still running then, or when SIGINT or SIGTERM
 /// arrives, is ended with its whole group (TERM, then KILL a second later), so that no shell or
-/// child of it is left behind; after a signal the program then ends by that signal.
+/// child of it is left behind; the signal then goes on to the handler that was in place before
+/// the command (the program ends by it).
 class BoundedCommandHost : public tvpolicy::HostProbe {
 public:
     BoundedCommandHost(tvpolicy::HostProbe& inner, std::chrono::milliseconds timeout);
