@@ -22,6 +22,7 @@
 #include "policy/ParseGuard.h"
 #include "policy/ParseMessages.h"
 #include "policy/ProgressiveParse.h"
+#include "xml/LimitedFetch.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
 #include "base/LogLine.h"
@@ -305,7 +306,9 @@ void Section::parse(SAX2XMLReader* reader)
         tvpolicy::policy::parseProgressively(*reader, source, [&] { return bounds.refused(); });
     } catch (const XMLException& failure) {
         tvi::LogLine(std::cout) << "Section: cannot read '" << url << "': " << tvpolicy::xml::utf8(failure.getMessage());
-        fatalError(SAXParseException(failure.getMessage(), nullptr, nullptr, 0, 0));
+        // The reader's network error does not say why the fetch failed; the fetch does.
+        std::string cause = tvpolicy::xml::takeLastFetchFailure();
+        fatalError(cause.empty() ? SAXParseException(failure.getMessage(), nullptr, nullptr, 0, 0) : failureOf(cause));
     }
     guard = nullptr;
 }

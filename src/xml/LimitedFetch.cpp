@@ -1,10 +1,35 @@
 #include "xml/LimitedFetch.h"
 
 #include <string>
+#include <utility>
 
 #include "net/CurlHandle.h"
 
 namespace tvpolicy::xml {
+
+namespace {
+
+// "30 s", or "0.7 s" below a second.
+std::string seconds(long milliseconds)
+{
+    if (milliseconds % 1000 == 0) {
+        return std::to_string(milliseconds / 1000) + " s";
+    }
+    std::string text = std::to_string(milliseconds / 1000) + "." + std::to_string(milliseconds % 1000 + 1000).substr(1);
+    while (text.back() == '0') {
+        text.pop_back();
+    }
+    return text + " s";
+}
+
+thread_local std::string lastFailure;
+
+}  // namespace
+
+std::string takeLastFetchFailure()
+{
+    return std::exchange(lastFailure, std::string());
+}
 
 FetchLimits& documentFetchLimits()
 {
@@ -39,14 +64,27 @@ FetchResult fetchDocument(const std::string& url, const FetchLimits& limits)
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &result.status);
     if (download.tooLarge || code == CURLE_FILESIZE_EXCEEDED) {
         result.error = "the document is larger than " + std::to_string(limits.maxBytes) + " bytes";
+    } else if (code == CURLE_OPERATION_TIMEDOUT) {
+        result.error = "no complete answer within the time-out of " + seconds(limits.totalTimeoutMs) + " (" +
+                       (errorText[0] != 0 ? errorText : curl_easy_strerror(code)) + ")";
+    } else if (code == CURLE_PEER_FAILED_VERIFICATION || code == CURLE_SSL_CACERT_BADFILE) {
+        result.error = "the server's certificate is not trusted (" +
+                       std::string(errorText[0] != 0 ? errorText : curl_easy_strerror(code)) + ")";
     } else if (code != CURLE_OK) {
         result.error = errorText[0] != 0 ? errorText : curl_easy_strerror(code);
+    } else if (result.status >= 300 && result.status <= 399) {
+        const char* location = nullptr;
+        curl_easy_getinfo(handle, CURLINFO_REDIRECT_URL, &location);
+        result.error = "the server answered with status " + std::to_string(result.status) + ", a redirect" +
+                       (location != nullptr ? std::string(" to ") + location : std::string()) +
+                       " that is not followed";
     } else if (result.status < 200 || result.status > 299) {
         result.error = "the server answered with status " + std::to_string(result.status);
     } else {
         result.ok = true;
         result.body = std::move(body);
     }
+    lastFailure = result.error;
     return result;
 }
 

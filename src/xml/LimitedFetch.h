@@ -27,7 +27,12 @@ struct FetchResult {
 
 /// GETs an http or https address within `limits`. Redirects are not followed; any status
 /// other than 2xx, a body over the size cap or a time-out is a failure, and its body is
-/// dropped, never handed on.
+/// dropped, never handed on. The reason names the cause: the status (and a redirect's
+/// target), the time-out, the size cap, an untrusted certificate or the transfer's own error.
 FetchResult fetchDocument(const std::string& url, const FetchLimits& limits);
+
+/// Why the last fetchDocument of this thread failed (empty after a success), once: the reader
+/// reports a failed fetch only as its own network error, which does not say why.
+std::string takeLastFetchFailure();
 
 }  // namespace tvpolicy::xml

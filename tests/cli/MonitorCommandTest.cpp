@@ -1,6 +1,9 @@
 #include <tvpolicy/host/Utilities.h>
 
+#include <regex>
+
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "support/RunCli.h"
 #include "support/TempDir.h"
@@ -167,5 +170,66 @@ TEST(MonitorCommand, CountExitsByTheStatuses)
     EXPECT_EQ(lint.exitCode, 0) << lint.out;
     EXPECT_NE(lint.out.find("note: monitor 'no-p2p-client' has prohibit=\"true\""), std::string::npos) << lint.out;
 }
+
+}  // namespace
+
+namespace {
+
+struct WhyCase {
+    std::string title;
+    std::string monitor;  // one Monitor element with id 'm'
+    bool status;
+    std::string why;  // on standard error and in the JSON line; empty for a true status
+    std::vector<std::string> checks;  // the kinds performed, in order
+};
+
+class MonitorWhyTest : public testing::TestWithParam<WhyCase> {};
+
+// A false status says which check decided it and what it found, in text and in JSON; a check
+// after the first failing one is not performed.
+TEST_P(MonitorWhyTest, SaysWhichCheckDecided)
+{
+    testing_support::TempDir dir;
+    auto file = dir.write("m.xml", "<monitors>" + GetParam().monitor + "</monitors>").string();
+    auto text = runCli({"monitor", file, "--once"});
+    EXPECT_EQ(text.exitCode, GetParam().status ? 0 : 1) << text.err;
+    EXPECT_EQ(text.out, status("m", GetParam().status) + "\n");
+    if (GetParam().why.empty()) {
+        EXPECT_EQ(text.err.find("reported false"), std::string::npos) << text.err;
+    } else {
+        EXPECT_NE(text.err.find("tvpolicy monitor: 'm' reported false: " + GetParam().why), std::string::npos)
+            << text.err;
+    }
+
+    auto json = runCli({"monitor", file, "--count", "1", "--json"});
+    EXPECT_EQ(json.exitCode, GetParam().status ? 0 : 1) << json.err;
+    auto line = nlohmann::json::parse(json.out);
+    EXPECT_EQ(line["id"], "m");
+    EXPECT_EQ(line["status"], GetParam().status);
+    EXPECT_TRUE(std::regex_match(line["time"].get<std::string>(),
+                                 std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ)")))
+        << line["time"];
+    std::vector<std::string> kinds;
+    for (const auto& check : line["checks"]) {
+        kinds.push_back(check["type"].get<std::string>());
+        EXPECT_TRUE(check["passed"].is_boolean());
+    }
+    EXPECT_EQ(kinds, GetParam().checks);
+    EXPECT_EQ(line.value("why", ""), GetParam().why) << json.out;
+}
+
+INSTANTIATE_TEST_SUITE_P(Monitors, MonitorWhyTest, testing::Values(
+    WhyCase{"AllPass", "<Monitor id='m'><true/><true/></Monitor>", true, "", {"true", "true"}},
+    WhyCase{"StopsAtTheFirstFailure", "<Monitor id='m'><true/><false/><true/></Monitor>", false,
+            "check false failed", {"true", "false"}},
+    WhyCase{"ProcessNotRunning",
+            "<Monitor id='m'><ProcessExists procName='no-such-process-tvpolicy'/></Monitor>", false,
+            "check ProcessExists (Process Not Running) failed", {"ProcessExists"}},
+    WhyCase{"ProhibitedAndFound", "<Monitor id='m' prohibit='true'><true/></Monitor>", false,
+            "it is prohibited and every check passed: true", {"true"}},
+    WhyCase{"ProhibitedAndAbsent", "<Monitor id='m' prohibit='true'><true/><false/></Monitor>", true, "",
+            {"true", "false"}},
+    WhyCase{"NoCheck", "<Monitor id='m'/>", false, "it holds no check", {}}),
+    [](const testing::TestParamInfo<WhyCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

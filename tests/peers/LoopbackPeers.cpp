@@ -16,13 +16,15 @@ namespace peers {
 
 namespace {
 
-// A self-signed certificate for 127.0.0.1, made once per test run.
+// A self-signed certificate for 127.0.0.1 (also as its subject's IP address, which a client
+// that trusts it checks), made once per test run.
 const testing_support::TempDir& certificateDir()
 {
     static testing_support::TempDir dir;
     static const bool made = [] {
         auto result = testing_support::runProgram(
             {"openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "1", "-subj", "/CN=127.0.0.1",
+             "-addext", "subjectAltName=IP:127.0.0.1",
              "-keyout", (dir.path() / "key.pem").string(), "-out", (dir.path() / "cert.pem").string()});
         if (result.exitCode != 0) {
             throw std::runtime_error("openssl could not make a certificate: " + result.err);
@@ -63,6 +65,8 @@ std::string SeenRequest::header(const std::string& name) const
     auto found = headers.find(name);
     return found != headers.end() ? found->second : "(none)";
 }
+
+std::string HttpPeer::certificateFile() { return (certificateDir().path() / "cert.pem").string(); }
 
 HttpPeer::HttpPeer(bool tls) : tls_(tls)
 {

@@ -45,6 +45,8 @@ public:
 
     std::string url(const std::string& path) const;
     SeenRequest seen() const;
+    /// The PEM file of the self-signed certificate a TLS peer serves.
+    static std::string certificateFile();
 
 private:
     void remember(const httplib::Request& request);

@@ -57,8 +57,8 @@ TEST(HttpCommand, PostJsonShowsTheSixKeysWithTheServersCookie)
     EXPECT_EQ(shown.size(), 6u);
     EXPECT_EQ(shown["cookie"], "session=abc; Path=/");
     EXPECT_EQ(shown["contents"], "hello");
-    EXPECT_EQ(shown["responseCode"], "200");
-    EXPECT_EQ(shown["verifyResult"], "0");
+    EXPECT_EQ(shown["responseCode"], 200);
+    EXPECT_EQ(shown["verifyResult"], 0);
     EXPECT_EQ(shown["error"], "");
     EXPECT_EQ(server.seen().body, "k=v");
     EXPECT_EQ(server.seen().header("Cookie"), "sid=1");
@@ -75,6 +75,49 @@ TEST(HttpCommand, ReportsAnUntrustedCertificate)
     auto shown = nlohmann::json::parse(post.out);
     EXPECT_NE(shown["verifyResult"], "0");
     EXPECT_NE(shown["error"].get<std::string>().find("certificate"), std::string::npos) << post.out;
+}
+
+// Redirects are told and followed only when asked; a private CA is trusted with --cacert; a
+// post's body comes from a file with @FILE; the status is a number in every JSON form.
+TEST(HttpCommand, OptionsOfANewUser)
+{
+    peers::HttpPeer plain;
+    peers::HttpPeer tls(true);
+    testing_support::TempDir dir;
+    auto body = dir.write("body.txt", "from=file&x=1");
+    struct Case {
+        std::vector<std::string> args;
+        int exitCode;
+        std::string out;
+        std::string errPart;
+        std::string bodySeen;  // by the plain server, when not empty
+    };
+    const std::vector<Case> cases = {
+        {{"get", plain.url("/moved")}, 1, "moved",
+         plain.url("/moved") + " answered 302, a redirect to " + plain.url("/echo") + ": not followed (-L follows it)", ""},
+        {{"get", plain.url("/moved"), "-L"}, 0, "hello", "a redirect to " + plain.url("/echo") + ": following it", ""},
+        {{"head", plain.url("/moved"), "-L"}, 2, "", "-L follows the redirects of get only", ""},
+        {{"get", tls.url("/echo"), "--cacert", peers::HttpPeer::certificateFile()}, 0, "hello", "", ""},
+        {{"get", tls.url("/echo"), "--cacert", "/no/such.pem"}, 2, "", "--cacert", ""},
+        {{"post", plain.url("/echo"), "--data", "@" + body.string()}, 0, "hello", "", "from=file&x=1"},
+        {{"post", plain.url("/echo"), "--data", "@/no/such/body"}, 2, "", "cannot read '/no/such/body'", ""},
+    };
+    for (const Case& c : cases) {
+        std::vector<std::string> args = {"http"};
+        args.insert(args.end(), c.args.begin(), c.args.end());
+        auto result = runCli(args);
+        EXPECT_EQ(result.exitCode, c.exitCode) << c.args[1] << ": " << result.err;
+        EXPECT_EQ(result.out, c.out) << c.args[1];
+        EXPECT_NE(result.err.find(c.errPart), std::string::npos) << c.args[1] << ": " << result.err;
+        if (!c.bodySeen.empty()) {
+            EXPECT_EQ(plain.seen().body, c.bodySeen);
+        }
+    }
+    for (const char* operation : {"get", "head", "post"}) {
+        auto shown = nlohmann::json::parse(runCli({"http", operation, plain.url("/status/404"), "--json"}).out);
+        EXPECT_EQ(shown["responseCode"], 404) << operation;
+        EXPECT_TRUE(shown["verifyResult"].is_number()) << operation;
+    }
 }
 
 TEST(HttpCommand, DownloadsIntoAFile)
@@ -155,6 +198,8 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
         "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,20",
         "--srv-host=_agent._tcp.corp.test,z.corp.test,8443,1,99",
         "--txt-record=_agent._tcp.corp.test,server=a.corp.test,port=443",
+        "--auth-zone=corp.test",
+        "--auth-server=ns.corp.test",
     });
     auto result = runCli({"discover", "agent", "--domain", "corp.test", "--server", dns.address()});
     EXPECT_EQ(result.exitCode, 0) << result.err;
@@ -168,6 +213,7 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
     ASSERT_EQ(shown["srv"].size(), 3u);
     EXPECT_EQ(shown["srv"][1], (nlohmann::json{{"priority", 10}, {"weight", 20}, {"port", 443}, {"target", "a.corp.test"}}));
     EXPECT_EQ(shown["txt"], (nlohmann::json{"server=a.corp.test", "port=443"}));
+    EXPECT_EQ(shown["error"], nullptr);
 
     struct Case {
         std::vector<std::string> args;
@@ -184,6 +230,42 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
         result = runCli(c.args);
         EXPECT_EQ(result.exitCode, c.exitCode) << c.args.back() << ": " << result.err;
         EXPECT_EQ(result.out, "");
+    }
+}
+
+// Nothing found says why: the name server answered that there is no such name or record (1),
+// or it gave no usable answer (3), in words and as the JSON "error".
+TEST(DiscoverCommand, TellsNoRecordsFromNoAnswer)
+{
+    peers::Dnsmasq authoritative({"--auth-zone=corp.test", "--auth-server=ns.corp.test",
+                                  "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,20"});
+    peers::Dnsmasq forwarder({});  // no upstream: it refuses what it does not hold
+    peers::SilentNameServer silent;
+    struct Case {
+        std::string title;
+        std::string service;
+        std::string server;
+        int exitCode;
+        std::string error;
+        std::string inMessage;
+    };
+    const std::vector<Case> cases = {
+        {"NoSuchName", "other", authoritative.address(), 1, "no-such-name", "answered: there is no name _other._tcp.corp.test"},
+        {"Refused", "agent", forwarder.address(), 3, "no-answer", "refused or failed the question"},
+        {"NothingListening", "agent", "127.0.0.1:1", 3, "no-answer", "refused or failed"},
+        {"Silent", "agent", silent.address(), 3, "no-answer", "no answer from the name server " + silent.address() +
+         " within 5 s"},
+    };
+    for (const Case& c : cases) {
+        auto text = runCli({"discover", c.service, "--domain", "corp.test", "--server", c.server});
+        EXPECT_EQ(text.exitCode, c.exitCode) << c.title << ": " << text.err;
+        EXPECT_EQ(text.out, "") << c.title;
+        EXPECT_NE(text.err.find(c.inMessage), std::string::npos) << c.title << ": " << text.err;
+        auto json = runCli({"discover", c.service, "--domain", "corp.test", "--server", c.server, "--json"});
+        EXPECT_EQ(json.exitCode, c.exitCode) << c.title;
+        auto shown = nlohmann::json::parse(json.out);
+        EXPECT_EQ(shown["error"], c.error) << c.title;
+        EXPECT_NE(shown.value("message", "").find(c.inMessage), std::string::npos) << c.title << ": " << json.out;
     }
 }
 
@@ -211,6 +293,39 @@ TEST(DiscoverCommand, UsesTheSystemsResolverAndSearchDomain)
     auto result = testing_support::runProgram({"unshare", "-mn", "sh", "-c", script, "sh", conf.string(), TVPOLICY_CLI});
     EXPECT_EQ(result.exitCode, 0) << result.err;
     EXPECT_EQ(result.out, "SRV 1 1 443 a.corp.test\nTXT ok=1\n");
+}
+
+}  // namespace
+
+namespace {
+
+// An include that cannot be read ends the run with 3 and the cause, never the reader's "unable
+// to read from socket".
+TEST(RunIncludes, NameTheCauseOfAFailedFetch)
+{
+    peers::HttpPeer plain;
+    peers::HttpPeer tls(true);
+    struct Case {
+        std::string url;
+        std::string cause;
+    };
+    const std::vector<Case> cases = {
+        {plain.url("/status/404"), "the server answered with status 404"},
+        {plain.url("/status/503"), "the server answered with status 503"},
+        {plain.url("/moved"), "the server answered with status 302, a redirect to " + plain.url("/echo") +
+                                  " that is not followed"},
+        {plain.url("/endless"), "the document is larger than 16777216 bytes"},
+        {tls.url("/echo"), "the server's certificate is not trusted ("},
+    };
+    for (const Case& c : cases) {
+        testing_support::TempDir dir;
+        auto policy = dir.write("p.xml", "<policy name=\"p\">\n<include id=\"remote\" url=\"" + c.url + "\"/>\n</policy>\n");
+        auto result = runCli({"run", policy.string(), "-q"});
+        EXPECT_EQ(result.exitCode, 3) << c.url << ": " << result.err;
+        EXPECT_NE(result.err.find("cannot read the included section at " + c.url + ": " + c.cause), std::string::npos)
+            << result.err;
+        EXPECT_EQ(result.err.find("socket"), std::string::npos) << result.err;
+    }
 }
 
 }  // namespace

@@ -156,11 +156,13 @@ TEST_F(MockedNetworkManager, WithoutWifiDeviceOrBusEverythingFailsAtOnce)
     CliResult joined = join("<profile><SSID>Campus</SSID></profile>");
     EXPECT_EQ(joined.exitCode, 1);
     EXPECT_TRUE(connections().empty());
+    EXPECT_EQ(joined.out, "Not on Campus (run with -v to see why)\n");
 
     CliResult noBus = runProgram({"env", "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus", TVPOLICY_CLI, "-v",
                                   "wifi", "join", (tmp.path() / "profile.xml").string()});
     EXPECT_EQ(noBus.exitCode, 1);
     EXPECT_NE(noBus.err.find("CreateModifyProfile: no Wi-Fi interface"), std::string::npos) << noBus.err;
+    EXPECT_EQ(noBus.out, "Not on Campus (the lines above say why)\n");  // -v was given
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ int main(int argc, char** argv)
         }
         for (CLI::App* sub : app.get_subcommands({})) {
             if (sub->get_name() == helpTopic) {
-                console.out() << sub->help();
+                console.out() << sub->help(app.get_name());  // "Usage: tvpolicy run ...", as run --help
                 return cli::exitPassed;
             }
         }
@@ -64,9 +64,23 @@ int main(int argc, char** argv)
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0 && !app.remaining().empty()) {
+            // A mistyped option is compared with the options of the chosen subcommand and the
+            // global ones; any other word with the subcommands.
             std::vector<std::string> names;
-            for (CLI::App* sub : app.get_subcommands({})) {
-                names.push_back(sub->get_name());
+            if (app.remaining().front().rfind('-', 0) == 0) {
+                std::vector<CLI::App*> scopes = app.get_subcommands();
+                scopes.push_back(&app);
+                for (CLI::App* scope : scopes) {
+                    for (const CLI::Option* known : scope->get_options()) {
+                        for (const std::string& name : known->get_lnames()) {
+                            names.push_back("--" + name);
+                        }
+                    }
+                }
+            } else {
+                for (CLI::App* sub : app.get_subcommands({})) {
+                    names.push_back(sub->get_name());
+                }
             }
             std::string closest = cli::closestName(app.remaining().front(), names);
             std::cerr << "tvpolicy: unknown command or argument '" << app.remaining().front() << "'"

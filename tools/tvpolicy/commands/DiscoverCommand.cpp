@@ -1,11 +1,14 @@
 // tvpolicy discover SERVICE: the servers DNS names for a service (SRV records, in the order the
-// agent tries them) and the service's TXT settings. Exit 0 when DNS gave any record, 1 when it
-// gave none, 2 for a usage error.
+// agent tries them) and the service's TXT settings. Exit 0 when DNS gave any record, 1 when the
+// name server answered that there is none, 2 for a usage error, 3 when no answer came.
+#include <chrono>
 #include <future>
 #include <list>
 #include <memory>
 #include <optional>
 #include <string>
+
+#include <netdb.h>
 
 #include <nlohmann/json.hpp>
 
@@ -38,6 +41,37 @@ struct RecordList {
     ~RecordList() { SRVRecord::freeRecords(records); }
 };
 
+// Why a lookup found nothing, as the name server's answer to one SRV question tells it (the
+// resolver keeps the answer's error in h_errno, per thread).
+struct EmptyAnswer {
+    const char* error;  // "no-such-name", "no-records" (the server answered) or "no-answer"
+    std::string message;
+    int exitStatus;
+};
+
+EmptyAnswer whyEmpty(const std::string& name, const std::optional<tvpolicy::NameServer>& server)
+{
+    auto started = std::chrono::steady_clock::now();
+    h_errno = 0;
+    bool answered = !tvpolicy::currentHost().dnsQuery(name, 33, server).empty();
+    int error = h_errno;
+    std::string asked = server ? "the name server " + server->address + ":" + std::to_string(server->port)
+                               : std::string("the system's name server");
+    if (answered || error == NO_DATA) {
+        return {"no-records", asked + " answered: " + name + " holds no SRV or TXT record", exitFailed};
+    }
+    if (error == HOST_NOT_FOUND) {
+        return {"no-such-name", asked + " answered: there is no name " + name, exitFailed};
+    }
+    // A refusal or a server failure comes back at once; silence lasts the whole wait.
+    if (std::chrono::steady_clock::now() - started < std::chrono::seconds(4)) {
+        return {"no-answer", asked + " refused or failed the question for " + name +
+                              " (nothing listens there, or it does not serve that domain)",
+                exitUnfetched};
+    }
+    return {"no-answer", "no answer from " + asked + " within 5 s", exitUnfetched};
+}
+
 int runDiscover(const DiscoverOptions& options, Console& console)
 {
     std::optional<tvpolicy::NameServer> server;
@@ -56,10 +90,16 @@ int runDiscover(const DiscoverOptions& options, Console& console)
     }
     const char* service = options.service.c_str();
     const char* protocol = options.protocol.c_str();
-    // Both questions at once: a name server that never answers costs one wait, not two.
+    const std::string name = "_" + options.service + "._" + options.protocol + "." + domain;
+    // Every question at once: a name server that never answers costs one wait, not three.
     auto settings = std::async(std::launch::async, [&] { return TXTRecord::lookup(service, protocol, domain.c_str(), server); });
+    auto diagnosis = std::async(std::launch::async, [&] { return whyEmpty(name, server); });
     RecordList found{SRVRecord::lookup(service, protocol, domain.c_str(), server)};
     std::list<std::string> texts = settings.get()->getRawData();
+    std::optional<EmptyAnswer> empty;
+    if (found.records.empty() && texts.empty()) {
+        empty = diagnosis.get();
+    }
 
     if (options.json) {
         Json servers = Json::array();
@@ -67,8 +107,11 @@ int runDiscover(const DiscoverOptions& options, Console& console)
             servers.push_back({{"priority", record->getPriority()}, {"weight", record->getWeight()},
                                {"port", record->getPort()}, {"target", record->getName()}});
         }
-        Json shown = {{"name", "_" + options.service + "._" + options.protocol + "." + domain},
-                      {"srv", servers}, {"txt", texts}};
+        Json shown = {{"name", name}, {"srv", servers}, {"txt", texts}, {"error", nullptr}};
+        if (empty) {
+            shown["error"] = empty->error;
+            shown["message"] = empty->message;
+        }
         console.out() << shown.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
     } else {
         for (const SRVRecord* record : found.records) {
@@ -79,7 +122,11 @@ int runDiscover(const DiscoverOptions& options, Console& console)
             console.out() << "TXT " << text << '\n';
         }
     }
-    return found.records.empty() && texts.empty() ? exitFailed : exitPassed;
+    if (empty) {
+        console.err() << "tvpolicy discover: " << empty->message << '\n';
+        return empty->exitStatus;
+    }
+    return exitPassed;
 }
 
 CommandAction setupDiscover(CLI::App& app)

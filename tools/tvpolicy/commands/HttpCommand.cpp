@@ -4,13 +4,18 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
+#include <sstream>
 #include <string>
+
+#include <strings.h>
 
 #include <nlohmann/json.hpp>
 
 #include <tvpolicy/agent/BasicHttpRequest.h>
 
 #include "commands/Command.h"
+#include "policy/DocumentFile.h"
 #include "report/ResultsFile.h"
 
 namespace tvpolicy::cli {
@@ -25,7 +30,9 @@ using Json = nlohmann::ordered_json;
 struct HttpOptions {
     std::string operation;
     std::string url;
-    std::string data;
+    std::string data;  // "@FILE": the file's bytes
+    std::string caFile;
+    bool follow = false;
     std::string cookie;
     std::string output;
     bool json = false;
@@ -49,16 +56,17 @@ std::string jsonText(const Json& value)
 }
 
 // post: the client's post2 map, as the agent sees it.
-int runPost(const HttpOptions& options, Console& console)
+int runPost(const HttpOptions& options, const std::string& body, Console& console)
 {
-    std::map<std::string, std::string> reply = BasicHttpRequest::post2(options.url, options.data, options.cookie);
+    std::map<std::string, std::string> reply = BasicHttpRequest::post2(options.url, body, options.cookie);
     HttpTransfer outcome;
     outcome.responseCode = std::stol(reply["responseCode"]);
     outcome.completed = reply["error"].empty();
     if (options.json) {
+        // The status and the verification result are numbers here as in every other form.
         Json shown = Json::object();
         for (const auto& [key, value] : reply) {
-            shown[key] = value;
+            shown[key] = key == "responseCode" || key == "verifyResult" ? Json(std::stol(value)) : Json(value);
         }
         console.out() << jsonText(shown) << '\n';
     } else if (exitFor(outcome) == exitPassed && !options.output.empty()) {
@@ -78,6 +86,63 @@ int runPost(const HttpOptions& options, Console& console)
     return exitFor(outcome);
 }
 
+// The Location header of a redirect's header lines; empty when there is none.
+std::string locationOf(const std::string& headers)
+{
+    std::istringstream lines(headers);
+    std::string line;
+    while (std::getline(lines, line)) {
+        if (line.size() > 9 && strcasecmp(line.substr(0, 9).c_str(), "location:") == 0) {
+            std::string value = line.substr(9);
+            value.erase(0, value.find_first_not_of(" \t"));
+            value.erase(value.find_last_not_of(" \t\r") + 1);
+            return value;
+        }
+    }
+    return "";
+}
+
+// `location` made absolute against `base`: a full address as it is, a path on base's server.
+std::string resolved(const std::string& base, const std::string& location)
+{
+    if (location.find("://") != std::string::npos) {
+        return location;
+    }
+    std::size_t scheme = base.find("://");
+    std::size_t pathStart = scheme == std::string::npos ? std::string::npos : base.find('/', scheme + 3);
+    std::string origin = pathStart == std::string::npos ? base : base.substr(0, pathStart);
+    if (!location.empty() && location[0] == '/') {
+        return origin + location;
+    }
+    std::string path = pathStart == std::string::npos ? "/" : base.substr(pathStart, base.rfind('/') - pathStart + 1);
+    return origin + path + location;
+}
+
+bool isRedirect(long code) { return code >= 300 && code <= 399; }
+
+// A GET, and with --location the GETs of up to ten redirects after it; each redirect is told on
+// standard error with its status and target.
+HttpTransfer getFollowing(const HttpOptions& options, Console& console)
+{
+    std::string url = options.url;
+    for (int hop = 0;; ++hop) {
+        HttpTransfer outcome = BasicHttpRequest::transfer(HttpOperation::get, url, std::string(), options.cookie, "");
+        std::string location = outcome.completed && isRedirect(outcome.responseCode) ? locationOf(outcome.headers) : "";
+        if (location.empty()) {
+            return outcome;
+        }
+        std::string next = resolved(url, location);
+        console.err() << "tvpolicy http: " << url << " answered " << outcome.responseCode << ", a redirect to " << next
+                      << (options.follow ? hop < 10 ? ": following it" : ": not followed, ten redirects were followed already"
+                                         : ": not followed (-L follows it)")
+                      << '\n';
+        if (!options.follow || hop >= 10) {
+            return outcome;
+        }
+        url = next;
+    }
+}
+
 int runHttp(const HttpOptions& options, Console& console)
 {
     com::torvane::HttpBounds bounds;
@@ -85,10 +150,19 @@ int runHttp(const HttpOptions& options, Console& console)
     bounds.totalTimeoutMs = static_cast<long>(options.timeoutSeconds * 1000);
     bounds.connectTimeoutMs = std::min(bounds.connectTimeoutMs, bounds.totalTimeoutMs);
     bounds.maxBodyBytes = options.maxBytes;
+    bounds.caFile = options.caFile;
     BasicHttpRequest::setBounds(bounds);
 
+    if (options.follow && options.operation != "get") {
+        console.err() << "tvpolicy http: -L follows the redirects of get only\n";
+        return exitUsage;
+    }
     if (options.operation == "post") {
-        return runPost(options, console);
+        if (options.data.rfind('@', 0) != 0) {
+            return runPost(options, options.data, console);
+        }
+        std::optional<std::string> body = loadDocument(console, "http", options.data.substr(1), options.maxBytes);
+        return body ? runPost(options, *body, console) : exitUsage;
     }
     if (options.operation == "download" && options.output.empty()) {
         console.err() << "tvpolicy http: download needs -o FILE\n";
@@ -106,8 +180,10 @@ int runHttp(const HttpOptions& options, Console& console)
             return exitUsage;
         }
     }
-    HttpTransfer outcome = BasicHttpRequest::transfer(operation, options.url, std::string(), options.cookie,
-                                                      staged ? staged->name() : std::string());
+    HttpTransfer outcome = operation == HttpOperation::get
+                               ? getFollowing(options, console)
+                               : BasicHttpRequest::transfer(operation, options.url, std::string(), options.cookie,
+                                                            staged ? staged->name() : std::string());
     bool success = exitFor(outcome) == exitPassed;
 
     if (options.json) {
@@ -155,7 +231,12 @@ CommandAction setupHttp(CLI::App& app)
     app.add_option("OPERATION", options->operation, "get, post, head or download")
         ->required()->check(CLI::IsMember({"get", "post", "head", "download"}));
     app.add_option("URL", options->url, "An http or https address")->required();
-    app.add_option("--data", options->data, "The body of a post")->option_text("D");
+    app.add_option("--data", options->data, "The body of a post; @FILE sends the bytes of FILE")->option_text("D");
+    app.add_option("--cacert", options->caFile, "Trust the certificate authorities of this PEM file instead of the system's")
+        ->option_text("FILE")
+        ->check(CLI::ExistingFile);
+    app.add_flag("-L,--location", options->follow,
+                 "Follow redirects of a get (up to ten; the agent's client never follows them)");
     app.add_option("--cookie", options->cookie, "The Cookie header's value")->option_text("C");
     app.add_option("-o,--output", options->output, "Write the body to FILE (download needs it)")->option_text("FILE");
     app.add_flag("--json", options->json, "Print what the client learnt as one JSON object");

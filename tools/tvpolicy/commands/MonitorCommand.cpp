@@ -1,5 +1,6 @@
-// tvpolicy monitor FILE [--once] [--count N]: runs the monitors of a document as the agent
-// does, each when its next run time has come, printing every status XML as one line.
+// tvpolicy monitor FILE [--once] [--count N] [--json]: runs the monitors of a document as the
+// agent does, each when its next run time has come, printing every status XML as one line (and
+// why a monitor reported false on standard error), or one JSON object per run.
 #include <ctime>
 #include <exception>
 #include <list>
@@ -13,6 +14,7 @@
 #include "commands/Command.h"
 #include "policy/DocumentFile.h"
 #include "policy/UnreadElements.h"
+#include "report/MonitorRun.h"
 #include "io/StopSignals.h"
 
 namespace tvpolicy::cli {
@@ -32,14 +34,20 @@ MonitorList takeMonitors(std::list<Monitor*>* parsed)
     return monitors;
 }
 
-/// Runs `monitor`, prints its status line and tells whether it reported "true".
-bool runAndPrint(Monitor& monitor, Console& console)
+/// Runs `monitor`, prints its status line (and why it reported false) or its JSON line, and
+/// tells whether it reported "true".
+bool runAndPrint(Monitor& monitor, Console& console, bool json)
 {
-    static const std::string passed = "<status>true</status></monitor>";
-    std::unique_ptr<com::torvane::policy::MonitorResponse> response(monitor.perform());
-    std::string xml = response->getXML();
-    console.out() << xml << '\n' << std::flush;
-    return xml.size() >= passed.size() && xml.compare(xml.size() - passed.size(), passed.size(), passed) == 0;
+    MonitorRun run = performMonitor(monitor);
+    if (json) {
+        console.out() << run.toJson().dump() << '\n' << std::flush;
+    } else {
+        console.out() << run.statusXml() << '\n' << std::flush;
+        if (!run.compliant) {
+            console.err() << "tvpolicy monitor: '" << run.id << "' reported false: " << run.why() << '\n';
+        }
+    }
+    return run.compliant;
 }
 
 bool notAfter(const std::timespec& a, const std::timespec& b)
@@ -47,11 +55,11 @@ bool notAfter(const std::timespec& a, const std::timespec& b)
     return a.tv_sec < b.tv_sec || (a.tv_sec == b.tv_sec && a.tv_nsec <= b.tv_nsec);
 }
 
-int runOnce(MonitorList& monitors, Console& console)
+int runOnce(MonitorList& monitors, Console& console, bool json)
 {
     bool allTrue = true;
     for (auto& monitor : monitors) {
-        allTrue = runAndPrint(*monitor, console) && allTrue;
+        allTrue = runAndPrint(*monitor, console, json) && allTrue;
     }
     return allTrue ? exitPassed : exitFailed;
 }
@@ -59,7 +67,7 @@ int runOnce(MonitorList& monitors, Console& console)
 // Runs every due monitor in document order, then sleeps until the next one is due. A monitor
 // without a positive period runs once only. Stops after `count` runs (0: no limit), when no
 // monitor is left to run, or on SIGINT/SIGTERM, always between two runs.
-int runScheduled(MonitorList& monitors, long count, Console& console)
+int runScheduled(MonitorList& monitors, long count, bool json, Console& console)
 {
     StopSignals stop;
     std::vector<Monitor*> schedule;
@@ -80,7 +88,7 @@ int runScheduled(MonitorList& monitors, long count, Console& console)
                 ++it;
                 continue;
             }
-            allTrue = runAndPrint(*monitor, console) && allTrue;
+            allTrue = runAndPrint(*monitor, console, json) && allTrue;
             if ((count > 0 && ++runs >= count) || stop.stopRequested()) {
                 return ending();
             }
@@ -108,6 +116,7 @@ CommandAction setupMonitor(CLI::App& app)
         std::string file;
         bool once = false;
         bool strict = false;
+        bool json = false;
         long count = 0;
     };
     auto options = std::make_shared<Options>();
@@ -129,6 +138,8 @@ CommandAction setupMonitor(CLI::App& app)
                  "Refuse (exit 2) a document that holds elements or attributes the monitors would not evaluate");
     app.add_option("--count", options->count, "Stop after N runs in all (N at least 1); exit 0 only when all reported true")
         ->check(atLeastOne)->excludes(once);
+    app.add_flag("--json", options->json,
+                 "Print one JSON object per run (time, id, status, each check performed and why a false status)");
 
     return [options](Console& console) -> int {
         std::optional<std::string> text = loadXmlDocument(console, "monitor", options->file);
@@ -151,7 +162,8 @@ CommandAction setupMonitor(CLI::App& app)
             console.err() << "tvpolicy monitor: " << options->file << " holds no Monitor element\n";
             return exitUsage;
         }
-        return options->once ? runOnce(monitors, console) : runScheduled(monitors, options->count, console);
+        return options->once ? runOnce(monitors, console, options->json)
+                             : runScheduled(monitors, options->count, options->json, console);
     };
 }
 

@@ -21,6 +21,7 @@
 #include <tvpolicy/policy/Section.h>
 
 #include "commands/Command.h"
+#include "policy/BoundedCommandHost.h"
 #include "policy/DescribedHost.h"
 #include "policy/DocumentFile.h"
 #include "policy/PolicyInput.h"
@@ -55,6 +56,7 @@ struct RunOptions {
     std::string hostDescription;
     std::size_t maxSizeMB = defaultMaxDocumentMB;
     bool allowScripts = false;
+    double commandTimeout = 60;
 };
 
 bool isAddress(const std::string& source)
@@ -116,7 +118,7 @@ int deliver(const RunOptions& options, const Json& report, const std::string& tr
         bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
         format = options.json || (toFile && jsonName) ? "json" : "text";
     }
-    TextStyle style{!toFile && colourWanted(console.outFd(), options.noColor)};
+    TextStyle style{!toFile && colourWanted(console.outFd(), options.noColor), options.trace || console.libraryShown()};
     std::ostringstream body;
     if (format == "json") {
         body << report.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
@@ -163,7 +165,7 @@ int writeReports(const RunOptions& options, const Json& report, const std::strin
     return exitPassed;
 }
 
-int evaluate(const RunOptions& options, Console& console);
+int evaluate(const RunOptions& options, Console& console, const BoundedCommandHost* commands);
 
 // Two outputs named alike would overwrite each other: whichever came last would win.
 bool sameFile(const std::string& a, const std::string& b)
@@ -192,7 +194,10 @@ int runPolicy(const RunOptions& options, Console& console)
         }
     }
     if (options.hostDescription.empty()) {
-        return evaluate(options, console);
+        BoundedCommandHost bounded(tvpolicy::systemHost(),
+                                   std::chrono::milliseconds(static_cast<long long>(options.commandTimeout * 1000)));
+        tvpolicy::ScopedHost scope(bounded);
+        return evaluate(options, console, &bounded);
     }
     std::string error;
     std::unique_ptr<DescribedHost> described = DescribedHost::load(options.hostDescription, error);
@@ -202,10 +207,10 @@ int runPolicy(const RunOptions& options, Console& console)
     }
     tvpolicy::ScopedHost scope(described->host());
     tvpolicy::ScopedPosture posture(described->posture());
-    return evaluate(options, console);
+    return evaluate(options, console, nullptr);
 }
 
-int evaluate(const RunOptions& options, Console& console)
+int evaluate(const RunOptions& options, Console& console, const BoundedCommandHost* commands)
 {
     const auto started = std::chrono::system_clock::now();
     const auto clock = std::chrono::steady_clock::now();
@@ -270,6 +275,9 @@ int evaluate(const RunOptions& options, Console& console)
         status = exitPassed;  // an audit-only policy reports; it does not decide access
     }
     Json report = reportPolicy(*policy, passed, progress.announced(), notices);
+    if (commands != nullptr) {
+        commands->explainTimeouts(report);
+    }
     report["exitStatus"] = status;
     report["run"] = runRecord(started, clock);
     report["source"] = {{"path", options.source}, {"bytes", bytes.size()}, {"sha256", sha256Hex(bytes)}};
@@ -306,6 +314,12 @@ CommandAction setupRun(CLI::App& app)
     app.add_option("--host", options->hostDescription,
                    "Evaluate against the host that the JSON document FILE describes, not this computer")
         ->option_text("FILE");
+    app.add_option("--command-timeout", options->commandTimeout,
+                   "End a command that a check runs (VersionFromScript), with its process group, after S seconds; "
+                   "the check then fails saying so")
+        ->option_text("S")
+        ->capture_default_str()
+        ->check(CLI::Range(0.001, 86400.0));
     app.add_option("--max-size", options->maxSizeMB, "Refuse a policy larger than N MB before reading it")
         ->capture_default_str()
         ->check(CLI::Range(std::size_t{1}, std::size_t{4096}));

@@ -56,7 +56,9 @@ int join(Console& console, const std::string& file)
         console.out() << "Joined " << profile->getSSID() << '\n';
         return exitPassed;
     }
-    console.out() << "Not on " << profile->getSSID() << " (run with -v to see why)\n";
+    // With -v the library's own lines above say why; without, the person learns where to look.
+    console.out() << "Not on " << profile->getSSID()
+                  << (console.libraryShown() ? " (the lines above say why)\n" : " (run with -v to see why)\n");
     return exitFailed;
 }
 

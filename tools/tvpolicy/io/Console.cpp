@@ -74,7 +74,11 @@ void Console::hideLibraryOutput()
     routeLibraryTo(sink_.get(), true);
 }
 
-void Console::showLibraryOutput() { routeLibraryTo(realErr_.get(), false); }
+void Console::showLibraryOutput()
+{
+    libraryShown_ = true;
+    routeLibraryTo(realErr_.get(), false);
+}
 
 bool Console::logLibraryOutputTo(const std::string& path, std::string& error)
 {

@@ -36,6 +36,8 @@ public:
     void hideLibraryOutput();
     /// The library's output goes to the person's standard error.
     void showLibraryOutput();
+    /// Whether the person asked to see the library's output (-v).
+    bool libraryShown() const { return libraryShown_; }
     /// The library's output is appended to `path`; false, with `error` set, if it cannot be opened.
     bool logLibraryOutputTo(const std::string& path, std::string& error);
 
@@ -56,6 +58,7 @@ public:
 private:
     void routeLibraryTo(int fd, bool discard);
 
+    bool libraryShown_ = false;
     UniqueFd realOut_;
     UniqueFd realErr_;
     FdStreamBuf outBuf_;

@@ -13,12 +13,14 @@ namespace {
 // Written by the handler; a pipe wakes the waiting poll without a race between checking the
 // flag and starting to wait.
 volatile std::sig_atomic_t stopFlag = 0;
+volatile std::sig_atomic_t stopSignal = 0;
 int wakeFd = -1;
 
-extern "C" void requestStop(int)
+extern "C" void requestStop(int signal)
 {
     int saved = errno;
     stopFlag = 1;
+    stopSignal = signal;
     if (wakeFd >= 0) {
         char byte = 1;
         // A full pipe already holds a wake-up; nothing else can be done in a handler.
@@ -58,6 +60,7 @@ StopSignals::StopSignals()
     readEnd_.reset(fds[0]);
     writeEnd_.reset(fds[1]);
     stopFlag = 0;
+    stopSignal = 0;
     wakeFd = writeEnd_.get();
 
     struct sigaction action {};
@@ -75,6 +78,8 @@ StopSignals::~StopSignals()
 }
 
 bool StopSignals::stopRequested() { return stopFlag != 0; }
+
+int StopSignals::signalNumber() const { return stopSignal; }
 
 bool StopSignals::waitUntil(const std::timespec& deadline)
 {

@@ -21,6 +21,10 @@ public:
     bool stopRequested();
     /// Waits until `deadline` (CLOCK_REALTIME) or a stop request; true when asked to stop.
     bool waitUntil(const std::timespec& deadline);
+    /// The signal that asked to stop; 0 before one came.
+    int signalNumber() const;
+    /// Readable once a stop request has come, for a caller that polls other descriptors too.
+    int wakeDescriptor() const { return readEnd_.get(); }
 
 private:
     UniqueFd readEnd_;

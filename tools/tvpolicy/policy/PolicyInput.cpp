@@ -47,7 +47,18 @@ std::string sourceName(const std::string& source) { return source == "-" ? "stan
 std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxBytes, const std::string& command,
                                    Console& console, std::string& bytes)
 {
-    return parsePolicy(readDocument(source, maxBytes), source, command, console, bytes);
+    DocumentRead input = readDocument(source, maxBytes);
+    // The policy reader has a limit of its own, which --max-size cannot raise: said as such, not
+    // as a document that is not XML.
+    constexpr std::size_t readerLimit = std::size_t{16} << 20;
+    if (input.ok && input.text.size() > readerLimit) {
+        console.err() << "tvpolicy " << command << ": cannot read "
+                      << (source == "-" ? std::string("standard input") : "'" + source + "'") << ": it is "
+                      << input.text.size() << " bytes, more than the 16 MB a policy may have (the policy reader's "
+                      << "own limit, which --max-size cannot raise)\n";
+        return nullptr;
+    }
+    return parsePolicy(std::move(input), source, command, console, bytes);
 }
 
 std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& source, const std::string& command,

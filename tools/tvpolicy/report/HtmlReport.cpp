@@ -1,6 +1,8 @@
 #include "report/HtmlReport.h"
 
+#include <map>
 #include <sstream>
+#include <string>
 
 #include "report/PolicyReport.h"
 
@@ -42,6 +44,7 @@ h2{font-size:1.05rem;margin:0;display:flex;flex-wrap:wrap;gap:.4rem;align-items:
 .status{font-weight:700;white-space:nowrap}
 .pass{border-color:var(--pass)} .pass>.head .status,.verdict.pass .word{color:var(--pass)}
 .fail{border-color:var(--fail)} .fail>.head .status,.verdict.fail .word{color:var(--fail)}
+.term-passed{color:var(--pass)} .term-failed{color:var(--fail)} .term-not{color:var(--skip)}
 .warn{border-color:var(--warn)} .warn>.head .status{color:var(--warn)}
 .decided{color:var(--fail)} .skip{border-color:var(--skip)} .skip>.head .status{color:var(--skip)}
 table{border-collapse:collapse;width:100%;margin:.4rem 0}
@@ -79,18 +82,36 @@ const char* markOf(unsigned status)
     }
 }
 
+std::string termOutcome(const Json& passed)
+{
+    return passed.is_null() ? "not run" : passed.get<bool>() ? "passed" : "failed";
+}
+
+// The terms of an and, or or not, each with its outcome, folded under a summary of the counts.
 std::string termsHtml(const Json& task)
 {
     if (!task.contains("terms")) {
         return "";
     }
-    std::string html = "<ul>";
+    std::map<std::string, unsigned> counts;
+    std::string items;
     for (const Json& term : task["terms"]) {
         std::string found = comparedVersions(term);
-        html += "<li><code>" + escapeHtml(checkLabel(term)) + "</code>" + (found.empty() ? "" : " &ndash; " + escapeHtml(found)) +
-                termsHtml(term) + "</li>";
+        std::string outcome = termOutcome(term["passed"]);
+        ++counts[outcome];
+        items += "<li><code>" + escapeHtml(checkLabel(term)) + "</code>: <span class=\"term-" +
+                 outcome.substr(0, outcome.find(' ')) + "\">" + outcome + "</span>" +
+                 (found.empty() ? "" : " &ndash; " + escapeHtml(found)) + termsHtml(term) + "</li>";
     }
-    return html + "</ul>";
+    std::string summary;
+    for (const char* outcome : {"passed", "failed", "not run"}) {
+        if (counts[outcome] > 0) {
+            summary += (summary.empty() ? "" : ", ") + std::to_string(counts[outcome]) + " " + outcome;
+        }
+    }
+    std::size_t count = task["terms"].size();
+    return "<details><summary>" + std::to_string(count) + (count == 1 ? " term: " : " terms: ") + summary + "</summary><ul>" + items +
+           "</ul></details>";
 }
 
 bool webLink(const std::string& url)

@@ -92,11 +92,19 @@ void describeTask(Section& section, Task& task, Json& entry)
             entry["found"] = posture->lastFinding();
         }
     }
+    // Each term's outcome: an and stops at its first failing term, an or at its first passing
+    // one; the terms after it, like every term of a check that was not performed, did not run.
     std::vector<Task*> terms = termsOf(task);
     if (!terms.empty()) {
         entry["terms"] = Json::array();
+        const std::string type = task.getType();
+        bool performed = entry.contains("passed") && !entry["passed"].is_null();
         for (Task* term : terms) {
             Json nested = {{"type", term->getType()}};
+            nested["passed"] = performed ? Json(term->passed()) : Json(nullptr);
+            if (performed && ((type == "andTask" && !term->passed()) || (type == "orTask" && term->passed()))) {
+                performed = false;
+            }
             describeTask(section, *term, nested);
             entry["terms"].push_back(nested);
         }
@@ -296,15 +304,27 @@ Json switchesOf(Policy& policy)
             {"extra", extra}};
 }
 
-void printTerms(const Json& task, std::ostream& out, const std::string& indent)
+std::string outcomeWords(const Json& passed, const TextStyle& style)
+{
+    if (passed.is_null()) {
+        return "not run";
+    }
+    return toned(passed.get<bool>() ? "passed" : "failed", passed.get<bool>() ? Tone::pass : Tone::fail, style.colour);
+}
+
+void printTerms(const Json& task, std::ostream& out, const std::string& indent, const TextStyle& style)
 {
     if (!task.contains("terms")) {
         return;
     }
     for (const Json& term : task["terms"]) {
         std::string version = comparedVersions(term);
-        out << indent << checkLabel(term) << (version.empty() ? "" : " - " + version) << '\n';
-        printTerms(term, out, indent + "  ");
+        out << indent << checkLabel(term);
+        if (style.termOutcomes) {
+            out << ": " << outcomeWords(term["passed"], style);
+        }
+        out << (version.empty() ? "" : " - " + version) << '\n';
+        printTerms(term, out, indent + "  ", style);
     }
 }
 
@@ -337,11 +357,7 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
         return;
     }
     for (const Json& task : item["tasks"]) {
-        std::string outcome = task["passed"].is_null() ? "not run" : task["passed"].get<bool>() ? "passed" : "failed";
-        if (!task["passed"].is_null()) {
-            outcome = toned(outcome, task["passed"].get<bool>() ? Tone::pass : Tone::fail, style.colour);
-        }
-        out << indent << "    " << checkLabel(task) << ": " << outcome;
+        out << indent << "    " << checkLabel(task) << ": " << outcomeWords(task["passed"], style);
         std::string message = task["message"].get<std::string>();
         std::string version = comparedVersions(task);
         if (!message.empty()) {
@@ -354,7 +370,7 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
             out << " - " << version;
         }
         out << '\n';
-        printTerms(task, out, indent + "      ");
+        printTerms(task, out, indent + "      ", style);
     }
     if (status == 2 || status == 3 || status == 5) {
         if (!item["help"].get<std::string>().empty()) {
@@ -388,9 +404,12 @@ void printSwitches(const Json& switches, std::ostream& out)
         }
         out << '\n';
     }
+    // The library answers the base address for a report the policy does not declare; only the
+    // declared ones are shown.
     bool heading = false;
+    const std::string base = switches["baseUrl"].get<std::string>();
     for (const auto& [name, url] : switches["reportUrls"].items()) {
-        if (!url.get<std::string>().empty()) {
+        if (!url.get<std::string>().empty() && url.get<std::string>() != base) {
             out << (heading ? "" : "Reports to:\n") << "  " << name << ": " << url.get<std::string>() << '\n';
             heading = true;
         }

@@ -23,6 +23,9 @@ nlohmann::ordered_json reportPolicy(Policy& policy, bool passed, unsigned announ
 /// How the report is shown to a person.
 struct TextStyle {
     bool colour = false;
+    /// Each term of an and, or or not with its outcome (passed, failed, not run), not only its
+    /// element.
+    bool termOutcomes = false;
 };
 
 /// The "run" object of the results: this program and library, when the run started and how
