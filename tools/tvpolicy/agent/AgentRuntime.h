@@ -4,7 +4,7 @@
 #include <chrono>
 #include <csignal>
 
-#include "io/UniqueFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 
 namespace tvpolicy::cli::agent {
 
@@ -30,8 +30,8 @@ public:
     Wake wait(std::chrono::milliseconds timeout);
 
 private:
-    UniqueFd readEnd_;
-    UniqueFd writeEnd_;
+    OwnedFd readEnd_;
+    OwnedFd writeEnd_;
     struct sigaction savedInt_ {};
     struct sigaction savedTerm_ {};
     struct sigaction savedHup_ {};

@@ -12,7 +12,7 @@
 #include <tvpolicy/agent/TXTRecord.h>
 #include <tvpolicy/host/HostProbe.h>
 
-#include "io/UniqueFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 
 namespace tvpolicy::cli::agent {
 
@@ -40,7 +40,7 @@ bool accepts(const std::string& host, unsigned port, const std::atomic<bool>& st
         return false;
     }
     for (addrinfo* address = found.first; address != nullptr; address = address->ai_next) {
-        UniqueFd socket(::socket(address->ai_family, address->ai_socktype | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+        OwnedFd socket(::socket(address->ai_family, address->ai_socktype | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
         if (socket.get() < 0) {
             continue;
         }

@@ -82,7 +82,7 @@ void Console::showLibraryOutput()
 
 bool Console::logLibraryOutputTo(const std::string& path, std::string& error)
 {
-    UniqueFd file(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644));
+    OwnedFd file(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644));
     if (!file) {
         error = "cannot open log file " + path + ": " + std::strerror(errno);
         return false;

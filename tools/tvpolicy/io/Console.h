@@ -5,7 +5,7 @@
 #include <string>
 
 #include "io/FdStreamBuf.h"
-#include "io/UniqueFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 
 namespace tvpolicy::cli {
 
@@ -59,13 +59,13 @@ private:
     void routeLibraryTo(int fd, bool discard);
 
     bool libraryShown_ = false;
-    UniqueFd realOut_;
-    UniqueFd realErr_;
+    OwnedFd realOut_;
+    OwnedFd realErr_;
     FdStreamBuf outBuf_;
     FdStreamBuf errBuf_;
     std::ostream out_;
     std::ostream err_;
-    UniqueFd sink_;
+    OwnedFd sink_;
     int libraryFd_ = -1;  // where descriptors 1 and 2 point, once routed
     std::streambuf* coutBuffer_;
     std::streambuf* cerrBuffer_;

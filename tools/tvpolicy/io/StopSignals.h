@@ -3,7 +3,7 @@
 #include <csignal>
 #include <ctime>
 
-#include "io/UniqueFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 
 namespace tvpolicy::cli {
 
@@ -27,8 +27,8 @@ public:
     int wakeDescriptor() const { return readEnd_.get(); }
 
 private:
-    UniqueFd readEnd_;
-    UniqueFd writeEnd_;
+    OwnedFd readEnd_;
+    OwnedFd writeEnd_;
     struct sigaction savedInt_ {};
     struct sigaction savedTerm_ {};
 };

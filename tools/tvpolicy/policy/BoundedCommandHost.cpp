@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 #include "io/StopSignals.h"
-#include "io/UniqueFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 
 extern char** environ;
 
@@ -95,8 +95,8 @@ std::string BoundedCommandHost::commandOutput(const std::string& command, unsign
     if (::pipe2(fds, O_CLOEXEC) != 0) {
         return std::string();
     }
-    UniqueFd readEnd(fds[0]);
-    UniqueFd writeEnd(fds[1]);
+    OwnedFd readEnd(fds[0]);
+    OwnedFd writeEnd(fds[1]);
     std::string output;
     int stopSignal = 0;
     {

@@ -9,7 +9,7 @@
 #include <stdlib.h>
 #include <unistd.h>
 
-#include "io/UniqueFd.h"
+#include <tvpolicy/base/OwnedFd.h>
 
 namespace tvpolicy::cli {
 
@@ -20,7 +20,7 @@ bool writeFileAtomically(const std::string& path, const std::string& content, st
         why = staged.why();
         return false;
     }
-    UniqueFd file(::open(staged.name().c_str(), O_WRONLY | O_CLOEXEC));
+    OwnedFd file(::open(staged.name().c_str(), O_WRONLY | O_CLOEXEC));
     for (std::size_t done = 0; file && done < content.size();) {
         ssize_t written = ::write(file.get(), content.data() + done, content.size() - done);
         if (written < 0 && errno == EINTR) {
@@ -48,7 +48,7 @@ FileBeside::FileBeside(const std::string& path) : path_(path)
     std::string pattern = path + ".XXXXXX";
     std::vector<char> name(pattern.begin(), pattern.end());
     name.push_back('\0');
-    UniqueFd file(::mkostemp(name.data(), O_CLOEXEC));
+    OwnedFd file(::mkostemp(name.data(), O_CLOEXEC));
     if (!file) {
         why_ = "cannot create a file beside '" + path + "': " + std::strerror(errno);
         return;
@@ -65,7 +65,7 @@ FileBeside::~FileBeside()
 
 bool FileBeside::commit()
 {
-    UniqueFd file(::open(name_.c_str(), O_RDONLY | O_CLOEXEC));
+    OwnedFd file(::open(name_.c_str(), O_RDONLY | O_CLOEXEC));
     mode_t mask = ::umask(0);
     ::umask(mask);
     if (!file || ::fchmod(file.get(), 0666 & ~mask) != 0 || ::fsync(file.get()) != 0) {

@@ -31,19 +31,7 @@ using Fd = tvpolicy::OwnedFd;
 bool readAttribute(int dir, const char* name, std::string& text)
 {
     Fd fd(::openat(dir, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    if (fd.get() < 0) {
-        return false;
-    }
-    char buffer[256];
-    ssize_t got;
-    do {
-        got = ::read(fd.get(), buffer, sizeof buffer);
-    } while (got < 0 && errno == EINTR);
-    if (got < 0) {
-        return false;
-    }
-    text.assign(buffer, static_cast<std::size_t>(got));
-    return true;
+    return fd.valid() && tvpolicy::readBounded(fd.get(), 256, text) != tvpolicy::ReadEnd::Failed;
 }
 
 bool exists(int dir, const char* name) { return ::faccessat(dir, name, F_OK, 0) == 0; }
@@ -72,16 +60,8 @@ std::string resolvConf()
     std::string path = currentHost().systemPath("/etc/resolv.conf");
     Fd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     std::string text;
-    char buffer[4096];
-    while (fd.get() >= 0 && text.size() < 64 * 1024) {
-        ssize_t got = ::read(fd.get(), buffer, sizeof buffer);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
-        if (got <= 0) {
-            break;
-        }
-        text.append(buffer, static_cast<std::size_t>(got));
+    if (fd.valid()) {
+        tvpolicy::readBounded(fd.get(), 64 * 1024, text);
     }
     return text;
 }
