@@ -2,8 +2,9 @@
 # The libFuzzer targets of fuzz/, built with Clang. Three modes; name targets after the options
 # to run only those (scripts/fuzz.sh policy monitor).
 #
-#   scripts/fuzz.sh                    each target for FUZZ_SECONDS seconds (30 by default), as
-#                                      CI runs them
+#   scripts/fuzz.sh                    each target for FUZZ_SECONDS seconds, as CI runs them; by
+#                                      default 30, less when the targets would together take more
+#                                      than FUZZ_BUDGET seconds (300)
 #   scripts/fuzz.sh --long MINUTES     each target for MINUTES minutes; --keep merges the new
 #                                      inputs (minimised, -merge=1) into fuzz/corpus/<target>/
 #   scripts/fuzz.sh --coverage         replays each corpus with Clang's source-based coverage and
@@ -144,8 +145,15 @@ fi
 
 if [[ $mode == long ]]; then
   seconds=$((minutes * 60))
+elif [[ -n ${FUZZ_SECONDS:-} ]]; then
+  seconds=$FUZZ_SECONDS
 else
-  seconds=${FUZZ_SECONDS:-30}
+  # CI's bound: the targets share FUZZ_BUDGET seconds of wall-clock time (300 by default),
+  # $jobs at a time, 30 s each at most and 10 s at least, so that the step stays within ten
+  # minutes with its build however many targets join.
+  seconds=$(( ${FUZZ_BUDGET:-300} * jobs / ${#targets[@]} ))
+  ((seconds > 30)) && seconds=30
+  ((seconds < 10)) && seconds=10
 fi
 artifacts=${FUZZ_ARTIFACTS:-$build_dir/findings}
 mkdir -p "$artifacts"
