@@ -186,7 +186,9 @@ fuzz_one() {
   if ((keep && status == 0)); then
     local before after
     before=$(find "$corpus" -type f | wc -l)
-    "$build_dir/bin/${what}_fuzz" -merge=1 "$corpus" "$work/$what" >"$work/$what.merge" 2>&1 \
+    # Inputs that reach new edges only: the hit counts' finer distinctions would keep hundreds
+    # more of them for little.
+    "$build_dir/bin/${what}_fuzz" -merge=1 -use_counters=0 "$corpus" "$work/$what" >"$work/$what.merge" 2>&1 \
       || { cat "$work/$what.merge"; status=1; }
     after=$(find "$corpus" -type f | wc -l)
     kept=$((after - before))
