@@ -137,8 +137,10 @@ if [[ $mode == coverage ]]; then
   llvm-cov show -format=html -show-branches=count -output-dir="$build_dir/coverage" \
     -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${parsers[@]/#/$PWD/}"
   echo "line by line: $build_dir/coverage/index.html"
-  exec /usr/bin/python3 scripts/fuzz_coverage.py "$work/summary.json" "$build_dir/fuzz-parsers.txt" \
-    fuzz/unreachable.txt "$PWD" "${targets[@]%% *}"
+  status=0
+  python3 scripts/fuzz_coverage.py "$work/summary.json" "$build_dir/fuzz-parsers.txt" fuzz/unreachable.txt \
+    "$PWD" "${targets[@]%% *}" || status=$?
+  exit $status
 fi
 
 # ---- fuzzing ----------------------------------------------------------------------------
