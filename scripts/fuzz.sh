@@ -199,7 +199,7 @@ fuzz_one() {
   for name in number_of_executed_units average_exec_per_sec; do
     row+=("$(final_stat "$name" "$work/$what.out")")
   done
-  row+=("$(grep -o 'cov: [0-9]*' "$work/$what.out" | tail -n 1 | cut -d' ' -f2)")
+  row+=("$(grep -ao 'cov: [0-9]*' "$work/$what.out" | tail -n 1 | cut -d' ' -f2)")
   row+=("$(final_stat new_units_added "$work/$what.out")" "$kept" "$(wc -w <<<"$findings")")
   for i in "${!row[@]}"; do row[i]=${row[i]:--}; done
   echo "${row[*]}" >"$work/$what.row"
