@@ -122,8 +122,9 @@ replay_one() {
 if [[ $mode == coverage ]]; then
   each_target replay_one
   llvm-profdata merge -sparse "$work"/*.profraw -o "$build_dir/fuzz.profdata"
-  objects=()
-  for name in "${names[@]}"; do objects+=(-object "$build_dir/bin/$name"); done
+  # llvm-cov takes the first program alone, the others each after -object.
+  objects=("$build_dir/bin/${names[0]}")
+  for name in "${names[@]:1}"; do objects+=(-object "$build_dir/bin/$name"); done
   # The parser files of the targets run, as fuzz/CMakeLists.txt names them.
   parsers=()
   for line in "${targets[@]}"; do
@@ -132,10 +133,12 @@ if [[ $mode == coverage ]]; then
     parsers+=("${files[@]}")
   done
   mapfile -t parsers < <(printf '%s\n' "${parsers[@]}" | sort -u)
-  llvm-cov export -summary-only -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" \
-    "${parsers[@]/#/$PWD/}" >"$work/summary.json"
+  # The programs name their sources as the compiler saw them, from the build folder.
+  sources=("${parsers[@]/#/$(cd "$build_dir" && pwd)/../}")
+  llvm-cov export -summary-only -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}" \
+    >"$work/summary.json"
   llvm-cov show -format=html -show-branches=count -output-dir="$build_dir/coverage" \
-    -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${parsers[@]/#/$PWD/}"
+    -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}"
   echo "line by line: $build_dir/coverage/index.html"
   status=0
   python3 scripts/fuzz_coverage.py "$work/summary.json" "$build_dir/fuzz-parsers.txt" fuzz/unreachable.txt \

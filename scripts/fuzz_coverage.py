@@ -6,6 +6,7 @@ targets that were run. Prints per target and parser file the lines and branches 
 reaches; fails when a file is below the floor and fuzz/unreachable.txt does not say why.
 """
 import json
+import os
 import sys
 
 FLOOR = 80.0
@@ -41,7 +42,8 @@ def main(summary_path, parsers_path, notes_path, root, *targets):
     files = {}
     for export in summary["data"]:
         for entry in export["files"]:
-            files[entry["filename"].removeprefix(root.rstrip("/") + "/")] = entry["summary"]
+            name = os.path.relpath(os.path.normpath(entry["filename"]), root)
+            files[name] = entry["summary"]
     parsers = {}
     with open(parsers_path, encoding="utf-8") as text:
         for line in text:
