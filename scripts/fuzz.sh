@@ -138,7 +138,7 @@ if [[ $mode == coverage ]]; then
   llvm-cov export -summary-only -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}" \
     >"$work/summary.json"
   llvm-cov show -format=html -show-branches=count -output-dir="$build_dir/coverage" \
-    -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}"
+    -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${parsers[@]/#/$PWD/}"
   echo "line by line: $build_dir/coverage/index.html"
   status=0
   python3 scripts/fuzz_coverage.py "$work/summary.json" "$build_dir/fuzz-parsers.txt" fuzz/unreachable.txt \
