@@ -137,12 +137,16 @@ if [[ $mode == coverage ]]; then
   sources=("${parsers[@]/#/$(cd "$build_dir" && pwd)/../}")
   llvm-cov export -summary-only -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}" \
     >"$work/summary.json"
+  # show takes no file names in the form the programs keep them: it shows every file.
   llvm-cov show -format=html -show-branches=count -output-dir="$build_dir/coverage" \
-    -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${parsers[@]/#/$PWD/}"
+    -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}"
   echo "line by line: $build_dir/coverage/index.html"
+  # The same as text, from which the report tells whether the lines named unreachable are
+  # the ones missed.
+  llvm-cov show -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" >"$work/lines.txt"
   status=0
-  python3 scripts/fuzz_coverage.py "$work/summary.json" "$build_dir/fuzz-parsers.txt" fuzz/unreachable.txt \
-    "$PWD" "${targets[@]%% *}" || status=$?
+  python3 scripts/fuzz_coverage.py "$work/summary.json" "$work/lines.txt" "$build_dir/fuzz-parsers.txt" \
+    fuzz/unreachable.txt "$PWD" "${targets[@]%% *}" || status=$?
   exit $status
 fi
 

@@ -52,32 +52,38 @@ def summary(lines_covered, lines, branches_covered=0, branches=0):
     return {"lines": part(lines_covered, lines), "branches": part(branches_covered, branches)}
 
 
+# Line counts as llvm-cov show prints them: lines 1-10 of a.cpp run, 11-100 not.
+SHOWN = "/top/a.cpp:\n" + "".join(f"{n:5}|{1 if n <= 10 else 0:6}|code\n" for n in range(1, 101))
+
 CASES = [
     # (what, files reached by the corpus, unreachable.txt, exit status, text expected in the report)
     ("at the floor", {"a.cpp": summary(80, 100, 1, 2)}, "", 0, "80/100  80.0%"),
     ("below the floor", {"a.cpp": summary(79, 100)}, "", 1, "BELOW 80%"),
-    ("below, named", {"a.cpp": summary(10, 100)}, "a.cpp | 3-90 | platform only\n", 0, "lines 3-90 (platform only)"),
+    ("below, missed lines named", {"a.cpp": summary(10, 100)}, "a.cpp | 3-90, 91-100 | platform only\n", 0,
+     "100.0% without lines 3-90, 91-100: platform only"),
+    ("below, too few named", {"a.cpp": summary(10, 100)}, "a.cpp | 11-50 | platform only\n", 1,
+     "even without the lines named unreachable (16.7%)"),
     ("another file named", {"a.cpp": summary(10, 100)}, "b.cpp | 3 | why\n", 1, "BELOW 80%"),
     ("never reached", {}, "", 1, "not reached"),
     ("no branches", {"a.cpp": summary(5, 5)}, "# a comment\n\n", 0, "5/5 100.0%"),
 ]
 with tempfile.TemporaryDirectory() as scratch:
     for what, files, notes, status, expected in CASES:
-        paths = {name: os.path.join(scratch, name) for name in ("summary.json", "parsers.txt", "notes.txt")}
+        names = ("summary.json", "lines.txt", "parsers.txt", "notes.txt")
+        paths = {name: os.path.join(scratch, name) for name in names}
         exported = {"data": [{"files": [{"filename": f"/top/{name}", "summary": s} for name, s in files.items()]}]}
-        for name, content in (("summary.json", json.dumps(exported)), ("parsers.txt", "t a.cpp\n"),
-                              ("notes.txt", notes)):
+        for name, content in zip(names, (json.dumps(exported), SHOWN, "t a.cpp\n", notes)):
             with open(paths[name], "w", encoding="utf-8") as out:
                 out.write(content)
         printed = io.StringIO()
         with contextlib.redirect_stdout(printed):
-            got = fuzz_coverage.main(paths["summary.json"], paths["parsers.txt"], paths["notes.txt"], "/top", "t")
+            got = fuzz_coverage.main(*(paths[name] for name in names), "/top", "t")
         check(got == status, f"{what}: exit {got}, expected {status}\n{printed.getvalue()}")
         check(expected in printed.getvalue(), f"{what}: no '{expected}' in\n{printed.getvalue()}")
 
     malformed = os.path.join(scratch, "malformed.txt")
     with open(malformed, "w", encoding="utf-8") as out:
-        out.write("a.cpp | no reason\n")
+        out.write("a.cpp | 3-x | a reason\n")
     try:
         fuzz_coverage.read_notes(malformed)
         failures.append("a note without its reason was accepted")
