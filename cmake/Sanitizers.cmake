@@ -2,14 +2,25 @@
 #   TVPOLICY_SANITIZE         AddressSanitizer and UndefinedBehaviorSanitizer
 #   TVPOLICY_SANITIZE_THREAD  ThreadSanitizer
 #   TVPOLICY_BUILD_FUZZ       the libFuzzer targets of fuzz/ (Clang only), ASan and UBSan included
+#   TVPOLICY_FUZZ_COVERAGE    with TVPOLICY_BUILD_FUZZ: the targets measure the lines and branches
+#                             their inputs reach (Clang's source-based coverage), no sanitizers
 option(TVPOLICY_SANITIZE_THREAD "Build with ThreadSanitizer" OFF)
 option(TVPOLICY_BUILD_FUZZ "Build the libFuzzer targets in fuzz/ (Clang only)" OFF)
+option(TVPOLICY_FUZZ_COVERAGE "Build the fuzz targets for a coverage report instead of for fuzzing" OFF)
 
 set(_sanitizers "")
 # How the shared library is linked: every symbol resolved, unless a sanitizer's runtime is left
 # to the executables.
 set(TVPOLICY_NO_UNDEFINED "-Wl,--no-undefined")
-if(TVPOLICY_SANITIZE OR TVPOLICY_BUILD_FUZZ)
+if(TVPOLICY_FUZZ_COVERAGE)
+  if(NOT TVPOLICY_BUILD_FUZZ OR TVPOLICY_SANITIZE OR TVPOLICY_SANITIZE_THREAD)
+    message(FATAL_ERROR "TVPOLICY_FUZZ_COVERAGE goes with TVPOLICY_BUILD_FUZZ and no sanitizer")
+  endif()
+  # Only the fuzz targets are built: their programs replay a corpus once, and the counters
+  # they write say which lines and branches it reached. The shared library is not linked.
+  add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+  add_link_options(-fprofile-instr-generate)
+elseif(TVPOLICY_SANITIZE OR TVPOLICY_BUILD_FUZZ)
   set(_sanitizers "address,undefined")
 endif()
 if(TVPOLICY_SANITIZE_THREAD)

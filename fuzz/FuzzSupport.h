@@ -10,6 +10,7 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <system_error>
 
 #include <unistd.h>
 
@@ -80,6 +81,34 @@ private:
         }
     };
     Confined host_;
+};
+
+/// A folder of the process's own, removed with everything in it at exit, for targets whose
+/// parser reads files. It lies in memory where it can (/dev/shm): the files written for every
+/// input, some of them synced, would otherwise wait on the disk.
+class ScratchFolder {
+public:
+    explicit ScratchFolder(const std::string& name)
+    {
+        std::string parent = std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : "/tmp";
+        std::string pattern = parent + "/tvpolicy-fuzz-" + name + "-XXXXXX";
+        if (mkdtemp(pattern.data()) == nullptr) {
+            std::abort();
+        }
+        path_ = pattern;
+    }
+    ~ScratchFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    const std::string& path() const { return path_; }
+
+private:
+    std::string path_;
 };
 
 /// What a target that performs what it parses sets up once: no logs, no way out.

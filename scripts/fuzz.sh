@@ -1,76 +1,229 @@
 #!/usr/bin/env bash
-# Builds the libFuzzer targets with Clang in build-fuzz/ (or $BUILD_DIR) and runs each of them
-# from its seed corpus for FUZZ_SECONDS seconds (30 by default). Name targets to run only
-# those: scripts/fuzz.sh policy monitor. A finding stops the run with a failure; its
-# reproducer is printed (base64) and left under $FUZZ_ARTIFACTS (default build-fuzz/findings/).
-# Extra libFuzzer flags go in FUZZ_FLAGS, e.g. FUZZ_FLAGS=-jobs=2. FUZZ_JOBS targets run at
-# once (one per core by default).
+# The libFuzzer targets of fuzz/, built with Clang. Three modes; name targets after the options
+# to run only those (scripts/fuzz.sh policy monitor).
+#
+#   scripts/fuzz.sh                    each target for FUZZ_SECONDS seconds, as CI runs them; by
+#                                      default 30, less when the targets would together take more
+#                                      than FUZZ_BUDGET seconds (300)
+#   scripts/fuzz.sh --long MINUTES     each target for MINUTES minutes; --keep merges the new
+#                                      inputs (minimised, -merge=1) into fuzz/corpus/<target>/
+#   scripts/fuzz.sh --coverage         replays each corpus with Clang's source-based coverage and
+#                                      prints, per parser file, the lines and branches it reaches
+#
+# Fuzzing builds in build-fuzz/ (or $BUILD_DIR) with ASan and UBSan, FUZZ_JOBS targets at once
+# (two by default), and ends with a table: executions, exec/s, libFuzzer's coverage counters
+# reached, new inputs and findings per target. A finding fails the run; its reproducer is
+# printed (base64) and left under $FUZZ_ARTIFACTS (default build-fuzz/findings/). New inputs
+# go to a scratch folder, so without --keep nothing in the source tree is written. Extra
+# libFuzzer flags go in FUZZ_FLAGS.
+#
+# The coverage build lives in build-fuzz-coverage/ (or $COVERAGE_BUILD_DIR); its HTML report,
+# line by line, in build-fuzz-coverage/coverage/. A parser file below 80% of its lines fails
+# the report unless fuzz/unreachable.txt names the lines that no input can reach, and why.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-bash scripts/setup.sh
-build_dir=${BUILD_DIR:-build-fuzz}
-seconds=${FUZZ_SECONDS:-30}
-artifacts=${FUZZ_ARTIFACTS:-$build_dir/findings}
 
-cmake -S . -B "$build_dir" -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DTVPOLICY_BUILD_FUZZ=ON \
-  -DTVPOLICY_BUILD_TESTS=OFF >/dev/null
-mapfile -t targets < "$build_dir/fuzz-targets.txt"
+mode=bounded
+keep=0
+minutes=
+while [[ $# -gt 0 ]]; do
+  case $1 in
+    --long)
+      [[ ${2:-} =~ ^[0-9]+$ && $2 -gt 0 ]] || { echo "--long takes a whole number of minutes" >&2; exit 2; }
+      mode=long minutes=$2
+      shift 2 ;;
+    --keep) keep=1; shift ;;
+    --coverage) mode=coverage; shift ;;
+    -h|--help) sed -n '2,/^set -euo/p' "$0" | sed '$d; s/^# \{0,1\}//'; exit 0 ;;
+    --*) echo "unknown option $1 (see --help)" >&2; exit 2 ;;
+    *) break ;;
+  esac
+done
+if ((keep)) && [[ $mode != long ]]; then
+  echo "--keep goes with --long" >&2
+  exit 2
+fi
+selected=("$@")
+
+bash scripts/setup.sh
+jobs=${FUZZ_JOBS:-2}
+launcher=()
+if command -v ccache >/dev/null; then
+  launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+fi
+if [[ $mode == coverage ]]; then
+  build_dir=${COVERAGE_BUILD_DIR:-build-fuzz-coverage}
+  extra=(-DTVPOLICY_FUZZ_COVERAGE=ON)
+else
+  build_dir=${BUILD_DIR:-build-fuzz}
+  extra=(-DTVPOLICY_FUZZ_COVERAGE=OFF)
+fi
+cmake -S . -B "$build_dir" -G Ninja -DCMAKE_CXX_COMPILER=clang++ "${launcher[@]}" -DTVPOLICY_BUILD_FUZZ=ON \
+  -DTVPOLICY_BUILD_TESTS=OFF "${extra[@]}" >/dev/null
+
+# The targets to run, as fuzz/CMakeLists.txt lists them: name, seed corpus, dictionary.
+mapfile -t lines < "$build_dir/fuzz-targets.txt"
+targets=()
+for line in "${lines[@]}"; do
+  what=${line%% *}
+  if [[ ${#selected[@]} -eq 0 || " ${selected[*]} " == *" $what "* ]]; then
+    targets+=("$line")
+  fi
+done
+for name in "${selected[@]}"; do
+  grep -q "^$name " "$build_dir/fuzz-targets.txt" || { echo "no fuzz target $name" >&2; exit 2; }
+done
 names=()
 for line in "${targets[@]}"; do names+=("${line%% *}_fuzz"); done
-cmake --build "$build_dir" --target "${names[@]}"
+cmake --build "$build_dir" --target "${names[@]}" -j "$jobs"
 
-mkdir -p "$artifacts"
-export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:abort_on_error=1}
-export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# One target, its output kept in its own log so that targets can run side by side.
+# Runs "$1 <name> <corpus> <dictionary>" for every target, $jobs at a time; each prints its log
+# when it ends. Fails when one of them did.
+each_target() {
+  local run=$1 failed=0 running=0 status
+  for line in "${targets[@]}"; do
+    local what corpus dict
+    read -r what corpus dict <<<"$line"
+    if ((running >= jobs)); then
+      status=0
+      wait -n || status=$?
+      running=$((running - 1))
+      ((status == 0)) || failed=1
+    fi
+    (
+      status=0
+      "$run" "$what" "$corpus" "$dict" >"$work/$what.log" 2>&1 || status=1
+      cat "$work/$what.log"
+      exit $status
+    ) &
+    running=$((running + 1))
+  done
+  while ((running > 0)); do
+    status=0
+    wait -n || status=$?
+    running=$((running - 1))
+    ((status == 0)) || failed=1
+  done
+  return $failed
+}
+
+# ---- coverage ---------------------------------------------------------------------------
+
+replay_one() {
+  local what=$1 corpus=$2
+  echo "== $what: replaying $(find "$corpus" -type f | wc -l) inputs of $corpus =="
+  LLVM_PROFILE_FILE="$work/$what.profraw" "$build_dir/bin/${what}_fuzz" -runs=0 -timeout=30 "$corpus" 2>&1 | tail -n 2
+  [[ ${PIPESTATUS[0]} -eq 0 ]]
+}
+
+if [[ $mode == coverage ]]; then
+  each_target replay_one
+  llvm-profdata merge -sparse "$work"/*.profraw -o "$build_dir/fuzz.profdata"
+  # llvm-cov takes the first program alone, the others each after -object.
+  objects=("$build_dir/bin/${names[0]}")
+  for name in "${names[@]:1}"; do objects+=(-object "$build_dir/bin/$name"); done
+  # The parser files of the targets run, as fuzz/CMakeLists.txt names them.
+  parsers=()
+  for line in "${targets[@]}"; do
+    what=${line%% *}
+    read -r -a files <<<"$(grep "^$what " "$build_dir/fuzz-parsers.txt" | cut -d' ' -f2-)"
+    parsers+=("${files[@]}")
+  done
+  mapfile -t parsers < <(printf '%s\n' "${parsers[@]}" | sort -u)
+  # The programs name their sources as the compiler saw them, from the build folder.
+  sources=("${parsers[@]/#/$(cd "$build_dir" && pwd)/../}")
+  llvm-cov export -summary-only -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}" \
+    >"$work/summary.json"
+  # show takes no file names in the form the programs keep them: it shows every file.
+  llvm-cov show -format=html -show-branches=count -output-dir="$build_dir/coverage" \
+    -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}"
+  echo "line by line: $build_dir/coverage/index.html"
+  # The same as text, from which the report tells whether the lines named unreachable are
+  # the ones missed.
+  llvm-cov show -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" >"$work/lines.txt"
+  status=0
+  python3 scripts/fuzz_coverage.py "$work/summary.json" "$work/lines.txt" "$build_dir/fuzz-parsers.txt" \
+    fuzz/unreachable.txt "$PWD" "${targets[@]%% *}" || status=$?
+  exit $status
+fi
+
+# ---- fuzzing ----------------------------------------------------------------------------
+
+if [[ $mode == long ]]; then
+  seconds=$((minutes * 60))
+elif [[ -n ${FUZZ_SECONDS:-} ]]; then
+  seconds=$FUZZ_SECONDS
+else
+  # CI's bound: the targets share FUZZ_BUDGET seconds of wall-clock time (300 by default),
+  # $jobs at a time, 30 s each at most and 10 s at least, so that the step stays within ten
+  # minutes with its build however many targets join.
+  seconds=$(( ${FUZZ_BUDGET:-300} * jobs / ${#targets[@]} ))
+  ((seconds > 30)) && seconds=30
+  ((seconds < 10)) && seconds=10
+fi
+artifacts=${FUZZ_ARTIFACTS:-$build_dir/findings}
+mkdir -p "$artifacts"
+export ASAN_OPTIONS=${ASAN_OPTIONS:-detect_leaks=1:abort_on_error=1}
+export UBSAN_OPTIONS=${UBSAN_OPTIONS:-print_stacktrace=1:halt_on_error=1}
+
+# The number libFuzzer's final statistics give for $1 in the log $2, if any.
+final_stat() { sed -n "s/^stat::$1: *\([0-9]*\).*/\1/p" "$2" | tail -n 1; }
+
+# One target; what its run found (the numbers of libFuzzer's final statistics) goes to
+# $work/<name>.row for the table.
 fuzz_one() {
-  local what=$1 corpus=$2 dict=$3
+  local what=$1 corpus=$2 dict=$3 status=0
   # New inputs go to a scratch folder; the seeds in the source tree are only read.
   mkdir -p "$work/$what"
   local flags=(-max_total_time="$seconds" -timeout=30 -print_final_stats=1
                -artifact_prefix="$artifacts/${what}-")
   [[ $dict != - ]] && flags+=(-dict="$dict")
   echo "== $what: ${seconds}s from $corpus =="
-  if ! "$build_dir/bin/${what}_fuzz" "${flags[@]}" ${FUZZ_FLAGS:-} "$work/$what" "$corpus" 2>&1; then
-    for finding in "$artifacts/${what}"-*; do
-      [[ -e $finding ]] || continue
-      echo "== reproducer $finding (base64; decode into fuzz/corpus/$what/ to keep it) =="
-      base64 "$finding"
-    done
-    return 1
+  # shellcheck disable=SC2086  # FUZZ_FLAGS are words
+  "$build_dir/bin/${what}_fuzz" "${flags[@]}" ${FUZZ_FLAGS:-} "$work/$what" "$corpus" 2>&1 | tee "$work/$what.out" \
+    || status=1
+  local findings
+  findings=$(sed -n 's/.*Test unit written to \(.*\)$/\1/p' "$work/$what.out")
+  for finding in $findings; do
+    echo "== reproducer $finding (base64; decode into fuzz/corpus/$what/ to keep it) =="
+    base64 "$finding"
+  done
+  local kept=-
+  if ((keep && status == 0)); then
+    local before after
+    before=$(find "$corpus" -type f | wc -l)
+    # Inputs that reach new edges only: the hit counts' finer distinctions would keep hundreds
+    # more of them for little.
+    "$build_dir/bin/${what}_fuzz" -merge=1 -use_counters=0 "$corpus" "$work/$what" >"$work/$what.merge" 2>&1 \
+      || { cat "$work/$what.merge"; status=1; }
+    after=$(find "$corpus" -type f | wc -l)
+    kept=$((after - before))
   fi
+  local row=("$what")
+  for name in number_of_executed_units average_exec_per_sec; do
+    row+=("$(final_stat "$name" "$work/$what.out")")
+  done
+  row+=("$(grep -ao 'cov: [0-9]*' "$work/$what.out" | tail -n 1 | cut -d' ' -f2)")
+  row+=("$(final_stat new_units_added "$work/$what.out")" "$kept" "$(wc -w <<<"$findings")")
+  for i in "${!row[@]}"; do row[i]=${row[i]:--}; done
+  echo "${row[*]}" >"$work/$what.row"
+  return $status
 }
 
-# FUZZ_JOBS targets at a time (one per core by default); each prints its log when it ends.
-jobs=${FUZZ_JOBS:-$(nproc)}
-failed=0
-running=0
-finish_one() {
-  local status=0
-  wait -n || status=$?
-  running=$((running - 1))
-  [[ $status -eq 0 ]] || failed=1
-}
+status=0
+each_target fuzz_one || status=1
+echo
+printf '%-24s %12s %9s %9s %9s %6s %9s\n' target executions exec/s cov new kept findings
 for line in "${targets[@]}"; do
-  read -r what corpus dict <<<"$line"
-  if [[ $# -gt 0 && " $* " != *" $what "* ]]; then
-    continue
+  what=${line%% *}
+  if [[ -s $work/$what.row ]]; then
+    read -r name runs speed cov new kept findings <"$work/$what.row"
+    printf '%-24s %12s %9s %9s %9s %6s %9s\n' "$name" "$runs" "$speed" "$cov" "$new" "$kept" "$findings"
   fi
-  if ((running >= jobs)); then
-    finish_one
-  fi
-  (
-    status=0
-    fuzz_one "$what" "$corpus" "$dict" >"$work/$what.log" || status=1
-    cat "$work/$what.log"
-    exit $status
-  ) &
-  running=$((running + 1))
 done
-while ((running > 0)); do
-  finish_one
-done
-exit $failed
+echo "(cov: the coverage counters (edges) reached, libFuzzer's last 'cov:'; new: inputs that added"
+echo " coverage during the run; kept: of those, how many --keep merged into fuzz/corpus/<target>/)"
+exit $status
