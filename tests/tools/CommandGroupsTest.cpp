@@ -6,10 +6,8 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <future>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -19,6 +17,7 @@
 #include <unistd.h>
 
 #include "agent/CommandGroups.h"
+#include "support/ProcessWatch.h"
 
 namespace {
 
@@ -42,38 +41,6 @@ public:
 private:
     std::filesystem::path path_;
 };
-
-// Running, as opposed to gone or a zombie that nobody reaps.
-bool running(pid_t pid)
-{
-    std::ifstream stat("/proc/" + std::to_string(pid) + "/stat");
-    std::string line;
-    if (!std::getline(stat, line)) {
-        return false;
-    }
-    std::size_t close = line.rfind(')');
-    return close != std::string::npos && close + 2 < line.size() && line[close + 2] != 'Z';
-}
-
-// The process ids a command wrote to `path` once it had started what it runs.
-std::vector<pid_t> startedPids(const std::string& path, std::chrono::milliseconds timeout)
-{
-    const auto deadline = std::chrono::steady_clock::now() + timeout;
-    while (std::chrono::steady_clock::now() < deadline) {
-        std::ifstream in(path);
-        std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-        if (!text.empty() && text.back() == '\n') {
-            std::istringstream words(text);
-            std::vector<pid_t> pids;
-            for (pid_t pid = 0; words >> pid;) {
-                pids.push_back(pid);
-            }
-            return pids;
-        }
-        std::this_thread::sleep_for(10ms);
-    }
-    return {};
-}
 
 struct OutputCase {
     const char* what;
@@ -145,7 +112,7 @@ TEST_P(CommandEnd, TakesTheWholeGroupWithinTheGrace)
     auto call = std::async(std::launch::async, [&] {
         return GetParam().readsOutput ? commands.output(command).has_value() : commands.status(command).has_value();
     });
-    std::vector<pid_t> started = startedPids(pids, 5s);
+    std::vector<pid_t> started = testing_support::waitForPidLine(pids, 5s);
     ASSERT_FALSE(started.empty()) << GetParam().what << ": the command did not start";
     const auto ending = std::chrono::steady_clock::now();
     commands.end();
@@ -154,7 +121,7 @@ TEST_P(CommandEnd, TakesTheWholeGroupWithinTheGrace)
     EXPECT_FALSE(call.get()) << GetParam().what << ": an ended command has no result";
     std::this_thread::sleep_for(50ms);  // KILL is sent before the shell is reaped; let it land
     for (pid_t pid : started) {
-        EXPECT_FALSE(running(pid)) << GetParam().what << ": process " << pid << " was left running";
+        EXPECT_FALSE(testing_support::processRunning(pid)) << GetParam().what << ": process " << pid << " was left running";
     }
 }
 
