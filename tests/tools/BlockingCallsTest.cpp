@@ -60,7 +60,8 @@ TEST_P(BlockingCall, GivesTheResultOrNothingAfterAStop)
     AgentSignals signals;
     CommandGroups commands;
     bool abandoned = false;
-    BlockingCalls calls(signals, commands, [&abandoned](const std::string&) { abandoned = true; }, 500ms);
+    BlockingCalls calls(
+        signals, commands, [&abandoned](const std::string&) { abandoned = true; }, 500ms);
     std::optional<TermLater> term;
     if (GetParam().termAfter && GetParam().termAfter->count() == 0) {
         ::kill(::getpid(), SIGTERM);
@@ -79,16 +80,18 @@ TEST_P(BlockingCall, GivesTheResultOrNothingAfterAStop)
     EXPECT_LT(std::chrono::steady_clock::now() - started, 1s) << GetParam().what;
 }
 
-INSTANTIATE_TEST_SUITE_P(Calls, BlockingCall, testing::Values(
-    CallCase{"no stop: the call's result", [](CommandGroups&) { return 42; }, std::nullopt, 42, true},
-    CallCase{"a command's output, read on the call's thread",
-             [](CommandGroups& commands) { return std::stoi(commands.output("echo 7").value_or("-1")); },
-             std::nullopt, 7, true},
-    CallCase{"a stop before the call: it does not start", [](CommandGroups&) { return 42; }, 0ms, std::nullopt,
-             false},
-    CallCase{"a stop while its command runs: the command is ended and the call returns in time",
-             [](CommandGroups& commands) { return commands.output("sleep 30; echo 7") ? 7 : -1; }, 200ms,
-             std::nullopt, true}));
+INSTANTIATE_TEST_SUITE_P(
+    Calls, BlockingCall,
+    testing::Values(CallCase{"no stop: the call's result", [](CommandGroups&) { return 42; }, std::nullopt, 42, true},
+                    CallCase{
+                        "a command's output, read on the call's thread",
+                        [](CommandGroups& commands) { return std::stoi(commands.output("echo 7").value_or("-1")); },
+                        std::nullopt, 7, true},
+                    CallCase{"a stop before the call: it does not start", [](CommandGroups&) { return 42; }, 0ms,
+                             std::nullopt, false},
+                    CallCase{"a stop while its command runs: the command is ended and the call returns in time",
+                             [](CommandGroups& commands) { return commands.output("sleep 30; echo 7") ? 7 : -1; },
+                             200ms, std::nullopt, true}));
 
 TEST(BlockingCall, AnExceptionOfTheCallIsThrownToTheCaller)
 {

@@ -68,17 +68,18 @@ TEST_P(CommandOutput, IsReadWhole)
     EXPECT_EQ(*output, GetParam().output) << GetParam().what;
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, CommandOutput, testing::Values(
-    OutputCase{"lines and a last one without a newline", "printf 'a\\nb\\nc'", 1024, "a\nb\nc"},
-    OutputCase{"nothing printed", "true", 1024, ""},
-    OutputCase{"output of a child that outlives the shell's own printing", "echo one; (sleep 0.2; echo two)", 1024,
-               "one\ntwo\n"},
-    OutputCase{"more than is kept: the rest is read and dropped", "seq 1 100000", 6, "1\n2\n3\n"},
-    OutputCase{"standard input is empty, so a reader does not wait", "cat; echo done", 1024, "done\n"},
-    OutputCase{"the shell leads a process group of its own",
-               "set -- $(cat /proc/$$/stat); [ \"$1\" = \"$5\" ] && echo own", 1024, "own\n"},
-    OutputCase{"no signal is blocked in the command", "grep SigBlk /proc/$$/status", 1024,
-               "SigBlk:\t0000000000000000\n"}));
+INSTANTIATE_TEST_SUITE_P(
+    Commands, CommandOutput,
+    testing::Values(OutputCase{"lines and a last one without a newline", "printf 'a\\nb\\nc'", 1024, "a\nb\nc"},
+                    OutputCase{"nothing printed", "true", 1024, ""},
+                    OutputCase{"output of a child that outlives the shell's own printing",
+                               "echo one; (sleep 0.2; echo two)", 1024, "one\ntwo\n"},
+                    OutputCase{"more than is kept: the rest is read and dropped", "seq 1 100000", 6, "1\n2\n3\n"},
+                    OutputCase{"standard input is empty, so a reader does not wait", "cat; echo done", 1024, "done\n"},
+                    OutputCase{"the shell leads a process group of its own",
+                               "set -- $(cat /proc/$$/stat); [ \"$1\" = \"$5\" ] && echo own", 1024, "own\n"},
+                    OutputCase{"no signal is blocked in the command", "grep SigBlk /proc/$$/status", 1024,
+                               "SigBlk:\t0000000000000000\n"}));
 
 TEST(CommandStatus, IsTheWaitStatus)
 {
@@ -121,18 +122,21 @@ TEST_P(CommandEnd, TakesTheWholeGroupWithinTheGrace)
     EXPECT_FALSE(call.get()) << GetParam().what << ": an ended command has no result";
     std::this_thread::sleep_for(50ms);  // KILL is sent before the shell is reaped; let it land
     for (pid_t pid : started) {
-        EXPECT_FALSE(testing_support::processRunning(pid)) << GetParam().what << ": process " << pid << " was left running";
+        EXPECT_FALSE(testing_support::processRunning(pid))
+            << GetParam().what << ": process " << pid << " was left running";
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, CommandEnd, testing::Values(
-    EndCase{"a shell waiting for its child", "sleep 30 & echo $$ $! > \"$F\"; wait", true},
-    EndCase{"the same without reading output", "sleep 30 & echo $$ $! > \"$F\"; wait", false},
-    EndCase{"a shell and a child that ignore TERM", "trap '' TERM; sleep 30 & echo $$ $! > \"$F\"; wait", true},
-    EndCase{"a child that holds the output after the shell exited",
-            "(trap '' TERM; sleep 30) & echo $$ $! > \"$F\"", true},
-    EndCase{"a command that closed its output and keeps running",
-            "exec >/dev/null; sleep 30 & echo $$ $! > \"$F\"; wait", true}));
+INSTANTIATE_TEST_SUITE_P(
+    Commands, CommandEnd,
+    testing::Values(EndCase{"a shell waiting for its child", "sleep 30 & echo $$ $! > \"$F\"; wait", true},
+                    EndCase{"the same without reading output", "sleep 30 & echo $$ $! > \"$F\"; wait", false},
+                    EndCase{"a shell and a child that ignore TERM",
+                            "trap '' TERM; sleep 30 & echo $$ $! > \"$F\"; wait", true},
+                    EndCase{"a child that holds the output after the shell exited",
+                            "(trap '' TERM; sleep 30) & echo $$ $! > \"$F\"", true},
+                    EndCase{"a command that closed its output and keeps running",
+                            "exec >/dev/null; sleep 30 & echo $$ $! > \"$F\"; wait", true}));
 
 TEST(CommandEnd, NothingStartsOnceEnded)
 {

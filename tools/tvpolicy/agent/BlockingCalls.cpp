@@ -30,7 +30,7 @@ struct CallState {
         doneWrite.reset(fds[1]);
     }
 
-    UniqueFd doneRead;   // readable once the call has returned
+    UniqueFd doneRead;  // readable once the call has returned
     UniqueFd doneWrite;
     std::exception_ptr failure;
 };
@@ -61,7 +61,9 @@ bool readableWithin(int fd, std::chrono::milliseconds timeout)
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     for (;;) {
         auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
-        struct pollfd wait {fd, POLLIN, 0};
+        struct pollfd wait {
+            fd, POLLIN, 0
+        };
         int ready = ::poll(&wait, 1, static_cast<int>(std::max<long long>(left.count(), 0)));
         if (ready > 0) {
             return true;
@@ -76,7 +78,10 @@ bool readableWithin(int fd, std::chrono::milliseconds timeout)
 
 BlockingCalls::BlockingCalls(AgentSignals& signals, CommandGroups& commands, Abandon abandon,
                              std::chrono::milliseconds grace)
-    : signals_(signals), commands_(commands), abandon_(std::move(abandon)), grace_(grace)
+    : signals_(signals),
+      commands_(commands),
+      abandon_(std::move(abandon)),
+      grace_(grace)
 {
 }
 
