@@ -332,14 +332,24 @@ TEST_P(AgentStopDuringChecks, EndsTheCommandsAndKeepsNothing)
     for (char c : script) {
         attribute += c == '&' ? "&amp;" : c == '>' ? "&gt;" : c == '"' ? "&quot;" : std::string(1, c);
     }
-    auto policy = dir.write("policy.xml", "<policy name='p'><section name='Script' primary='true'>"
-                                          "<VersionFromScript script=\"" + attribute + "\" required='5'/>"
-                                          "</section></policy>");
+    auto policy = dir.write("policy.xml",
+                            "<policy name='p'><section name='Script' primary='true'>"
+                            "<VersionFromScript script=\"" +
+                                attribute +
+                                "\" required='5'/>"
+                                "</section></policy>");
     ReferenceServer server({"--policy", policy.string()});
     ASSERT_TRUE(server.started());
     auto config = privateFile(dir, "agent.toml", "scripts = \"any\"\n");
-    std::vector<std::string> argv = {TVPOLICY_CLI, "agent", "--allow-http", "--server", server.url(), "--state-dir",
-                                     (dir.path() / "state").string(), "--config", config.string()};
+    std::vector<std::string> argv = {TVPOLICY_CLI,
+                                     "agent",
+                                     "--allow-http",
+                                     "--server",
+                                     server.url(),
+                                     "--state-dir",
+                                     (dir.path() / "state").string(),
+                                     "--config",
+                                     config.string()};
     if (GetParam().once) {
         argv.push_back("--once");
     }
@@ -367,7 +377,8 @@ TEST_P(AgentStopDuringChecks, EndsTheCommandsAndKeepsNothing)
 INSTANTIATE_TEST_SUITE_P(
     Commands, AgentStopDuringChecks,
     ::testing::Values(CheckStopCase{"Sleeping", "sleep 30 & echo $$ $! > \"$F\"; wait; echo 7", false, 0},
-                      CheckStopCase{"IgnoringTerm", "trap '' TERM; sleep 30 & echo $$ $! > \"$F\"; wait; echo 7", false, 0},
+                      CheckStopCase{"IgnoringTerm", "trap '' TERM; sleep 30 & echo $$ $! > \"$F\"; wait; echo 7", false,
+                                    0},
                       CheckStopCase{"SleepingInOneCycle", "sleep 30 & echo $$ $! > \"$F\"; wait; echo 7", true, 3}),
     [](const auto& testCase) { return testCase.param.name; });
 

@@ -357,11 +357,11 @@ TEST(AgentStopPeers, DuringAnAddressRenewal)
     ASSERT_TRUE(server.started());
     const std::string stateDir = (dir.path() / "state").string();
     const auto log = dir.path() / "agent.log";
-    ChildProcess agent(loggingTo(
-        log, inNamespace(ns, {"env", "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus",
-                              "PATH=" + (dir.path() / "bin").string() + ":/usr/sbin:/usr/bin:/sbin:/bin", TVPOLICY_CLI,
-                              "agent", "--json", "--allow-http", "--server", server.url(), "--state-dir", stateDir,
-                              "--config", "/dev/null"})));
+    ChildProcess agent(
+        loggingTo(log, inNamespace(ns, {"env", "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus",
+                                        "PATH=" + (dir.path() / "bin").string() + ":/usr/sbin:/usr/bin:/sbin:/bin",
+                                        TVPOLICY_CLI, "agent", "--json", "--allow-http", "--server", server.url(),
+                                        "--state-dir", stateDir, "--config", "/dev/null"})));
     std::vector<pid_t> started = testing_support::waitForPidLine(pids, std::chrono::seconds(20));
     ASSERT_EQ(started.size(), 2u) << "networkctl was not called";
     expectQuickStop(agent, log, "the address renewal");

@@ -73,7 +73,10 @@ CycleReport stoppedDuring(const std::string& what, std::string scan)
 }
 
 AgentCycle::AgentCycle(const AgentSettings& settings, AgentState& state, Console& console, BlockingCalls& calls)
-    : settings_(settings), state_(state), console_(console), calls_(calls)
+    : settings_(settings),
+      state_(state),
+      console_(console),
+      calls_(calls)
 {
 }
 
@@ -154,7 +157,8 @@ CycleReport AgentCycle::run(const std::string& base)
                                                    std::string(profile ? "again" : "but names none"));
         }
         const char* joining = "the Wi-Fi join";
-        std::optional<bool> joined = calls_.run(joining, [&profile] { return WifiManager().createModifyProfile(*profile); });
+        std::optional<bool> joined =
+            calls_.run(joining, [&profile] { return WifiManager().createModifyProfile(*profile); });
         if (!joined) {
             return stoppedDuring(joining);
         }

@@ -4,22 +4,22 @@
 
 #include <tvpolicy/agent/BasicHttpRequest.h>
 
-#include "io/Console.h"
 #include "agent/AgentSettings.h"
 #include "agent/AgentState.h"
 #include "agent/BlockingCalls.h"
+#include "io/Console.h"
 
 namespace tvpolicy::cli::agent {
 
 /// How a cycle ended.
 enum class Outcome {
-    passed,        ///< the policy ran and passed (or only audits)
-    failed,        ///< the policy ran and failed
-    nothingToDo,   ///< the server said there is nothing to scan
-    unreached,     ///< no server answered
-    cycleFailed,   ///< a server answered, but the cycle could not be completed
-    authFailure,   ///< the server refused the login
-    stopped,       ///< the agent was asked to stop before the cycle ended
+    passed,       ///< the policy ran and passed (or only audits)
+    failed,       ///< the policy ran and failed
+    nothingToDo,  ///< the server said there is nothing to scan
+    unreached,    ///< no server answered
+    cycleFailed,  ///< a server answered, but the cycle could not be completed
+    authFailure,  ///< the server refused the login
+    stopped,      ///< the agent was asked to stop before the cycle ended
 };
 
 struct CycleReport {

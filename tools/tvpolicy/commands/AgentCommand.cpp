@@ -1,19 +1,19 @@
 // tvpolicy agent: proves this computer's compliance to an access-control server and keeps it
 // proven: fetches the server's policy, runs it, reports the results, and starts again on a
 // timer, when an address changes and when the computer wakes up.
+#include <sys/stat.h>
+#include <unistd.h>
 #include <chrono>
 #include <cstdio>
-#include <initializer_list>
 #include <ctime>
+#include <initializer_list>
 #include <iostream>
 #include <list>
 #include <memory>
 #include <optional>
 #include <random>
 #include <string>
-#include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -26,8 +26,6 @@
 #include <tvpolicy/host/MACChangeNotifier.h>
 #include <tvpolicy/host/PowerChangeNotifier.h>
 
-#include "commands/Command.h"
-#include "report/PolicyReport.h"
 #include "agent/AddressRenewal.h"
 #include "agent/AgentCycle.h"
 #include "agent/AgentHost.h"
@@ -38,6 +36,8 @@
 #include "agent/CommandGroups.h"
 #include "agent/Discovery.h"
 #include "agent/ServiceManager.h"
+#include "commands/Command.h"
+#include "report/PolicyReport.h"
 
 namespace tvpolicy::cli {
 
