@@ -13,6 +13,7 @@
 
 #include "support/ChildProcess.h"
 #include "support/NetNamespace.h"
+#include "support/ProcessWatch.h"
 #include "support/ReferenceServer.h"
 #include "support/RunCli.h"
 #include "support/TempDir.h"
@@ -309,6 +310,76 @@ INSTANTIATE_TEST_SUITE_P(
                                {"--fail", "/agent/config=500"},
                                "/agent/config",
                                std::chrono::milliseconds(500)}),
+    [](const auto& testCase) { return testCase.param.name; });
+
+struct CheckStopCase {
+    std::string name;
+    std::string script;  // writes "SHELL-PID CHILD-PID" to $F once its child runs, then waits for it
+    bool once;
+    int exitCode;
+};
+
+class AgentStopDuringChecks : public ::testing::TestWithParam<CheckStopCase> {};
+
+// A stop while a check's command runs ends the command with everything it started, and the
+// cycle with it: nothing of the cut-short run is kept or sent.
+TEST_P(AgentStopDuringChecks, EndsTheCommandsAndKeepsNothing)
+{
+    TempDir dir;
+    const auto pids = dir.path() / "pids";
+    std::string script = "F='" + pids.string() + "'; " + GetParam().script;
+    std::string attribute;
+    for (char c : script) {
+        attribute += c == '&' ? "&amp;" : c == '>' ? "&gt;" : c == '"' ? "&quot;" : std::string(1, c);
+    }
+    auto policy = dir.write("policy.xml",
+                            "<policy name='p'><section name='Script' primary='true'>"
+                            "<VersionFromScript script=\"" +
+                                attribute +
+                                "\" required='5'/>"
+                                "</section></policy>");
+    ReferenceServer server({"--policy", policy.string()});
+    ASSERT_TRUE(server.started());
+    auto config = privateFile(dir, "agent.toml", "scripts = \"any\"\n");
+    std::vector<std::string> argv = {TVPOLICY_CLI,
+                                     "agent",
+                                     "--allow-http",
+                                     "--server",
+                                     server.url(),
+                                     "--state-dir",
+                                     (dir.path() / "state").string(),
+                                     "--config",
+                                     config.string()};
+    if (GetParam().once) {
+        argv.push_back("--once");
+    }
+    const auto log = dir.path() / "agent.log";
+    ChildProcess agent(testing_support::loggingTo(log, argv));
+    std::vector<pid_t> started = testing_support::waitForPidLine(pids, std::chrono::seconds(20));
+    ASSERT_EQ(started.size(), 2u) << "the command did not start";
+
+    auto sent = std::chrono::steady_clock::now();
+    std::optional<int> status = agent.signalAndWait(SIGTERM, std::chrono::seconds(3));
+    ASSERT_TRUE(status.has_value());
+    EXPECT_EQ(*status, GetParam().exitCode);
+    EXPECT_LT(std::chrono::steady_clock::now() - sent, std::chrono::milliseconds(1000));
+    for (pid_t pid : started) {
+        EXPECT_FALSE(testing_support::processRunning(pid)) << "process " << pid << " of the command was left running";
+    }
+    EXPECT_THAT(testing_support::readFile(log), HasSubstr("scan default: stopped in"));
+    EXPECT_THAT(testing_support::readFile(log), HasSubstr("stopped during the policy run"));
+    std::vector<std::string> lines = server.requestLines();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "POST /agent/report/results"), 0);
+    EXPECT_EQ(pendingCount(dir), 0u);
+    EXPECT_FALSE(std::filesystem::exists(dir.path() / "state" / "last-verdict.json"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commands, AgentStopDuringChecks,
+    ::testing::Values(CheckStopCase{"Sleeping", "sleep 30 & echo $$ $! > \"$F\"; wait; echo 7", false, 0},
+                      CheckStopCase{"IgnoringTerm", "trap '' TERM; sleep 30 & echo $$ $! > \"$F\"; wait; echo 7", false,
+                                    0},
+                      CheckStopCase{"SleepingInOneCycle", "sleep 30 & echo $$ $! > \"$F\"; wait; echo 7", true, 3}),
     [](const auto& testCase) { return testCase.param.name; });
 
 // HTTPS: a certificate from a CA given with --cacert is taken; a self-signed one is not.

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -17,6 +18,7 @@
 #include "support/NetNamespace.h"
 #include "support/NetworkManagerMock.h"
 #include "support/PrivateBus.h"
+#include "support/ProcessWatch.h"
 #include "support/ReferenceServer.h"
 #include "support/RunCli.h"
 #include "support/TempDir.h"
@@ -24,6 +26,7 @@
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using testing_support::ChildProcess;
+using testing_support::loggingTo;
 using testing_support::NetNamespace;
 using testing_support::ReferenceServer;
 using testing_support::runCli;
@@ -43,13 +46,6 @@ const std::string renewingPolicy =
 std::vector<std::string> inNamespace(const NetNamespace& ns, std::vector<std::string> argv)
 {
     argv.insert(argv.begin(), {"ip", "netns", "exec", ns.name()});
-    return argv;
-}
-
-// `argv` with its standard error appended to `log`.
-std::vector<std::string> loggingTo(const std::filesystem::path& log, std::vector<std::string> argv)
-{
-    argv.insert(argv.begin(), {"sh", "-c", "exec \"$0\" \"$@\" 2>>'" + log.string() + "'"});
     return argv;
 }
 
@@ -294,5 +290,89 @@ INSTANTIATE_TEST_SUITE_P(
                                   "primary='true'><File fileName='passwd' startPath='/etc'/></section></policy>",
                                   ""}),
     [](const auto& testCase) { return testCase.param.name; });
+
+// Stops a running agent as a service manager does, and checks that it went within a second,
+// exiting 0, with a last line telling what the stop cut short.
+void expectQuickStop(ChildProcess& agent, const std::filesystem::path& log, const std::string& cutShort)
+{
+    auto sent = std::chrono::steady_clock::now();
+    std::optional<int> status = agent.signalAndWait(SIGTERM, std::chrono::seconds(3));
+    ASSERT_TRUE(status.has_value()) << "still running 3 s after SIGTERM";
+    EXPECT_EQ(*status, 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - sent, std::chrono::milliseconds(1000));
+    std::ifstream in(log);
+    Json last;
+    for (std::string line; std::getline(in, line);) {
+        last = Json::parse(line, nullptr, false);
+    }
+    EXPECT_EQ(last.value("verdict", ""), "stopped") << last.dump();
+    EXPECT_EQ(last.value("message", ""), "stopped during " + cutShort) << last.dump();
+}
+
+// The search domain's name server takes every query and answers none: the agent is stopped
+// while it waits for the answer to its SRV query.
+TEST(AgentStopPeers, DuringADnsLookupThatGetsNoAnswer)
+{
+    NetNamespace ns;
+    if (!ns.valid()) {
+        GTEST_SKIP() << ns.skipReason();
+    }
+    ASSERT_TRUE(ns.exec("ip link set lo up"));
+    ns.setResolvConf("nameserver 127.0.0.1\nsearch corp.test\n");
+    ChildProcess silent(inNamespace(ns, {"/usr/bin/python3", "-u", "-c",
+                                         "import socket\n"
+                                         "s = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)\n"
+                                         "s.bind(('127.0.0.1', 53))\n"
+                                         "print('ready')\n"
+                                         "while True:\n"
+                                         "    s.recvfrom(4096)\n"
+                                         "    print('query')\n"}),
+                        true);
+    ASSERT_EQ(silent.readLine(std::chrono::seconds(10)), "ready");
+    TempDir dir;
+    const auto log = dir.path() / "agent.log";
+    ChildProcess agent(loggingTo(log, inNamespace(ns, {TVPOLICY_CLI, "agent", "--json", "--state-dir",
+                                                       (dir.path() / "state").string(), "--config", "/dev/null"})));
+    ASSERT_EQ(silent.readLine(std::chrono::seconds(20)), "query");
+    expectQuickStop(agent, log, "the DNS discovery");
+}
+
+// networkctl (NetworkManager is not on the bus) does not come back: the agent is stopped during
+// the renewal, which ends the stand-in with what it started; the passed verdict was kept before.
+TEST(AgentStopPeers, DuringAnAddressRenewal)
+{
+    NetNamespace ns;
+    if (!ns.valid()) {
+        GTEST_SKIP() << ns.skipReason();
+    }
+    ASSERT_TRUE(
+        ns.exec("ip link set lo up && ip link add va type veth peer name vb && "
+                "ip addr add 10.9.0.1/24 dev va && ip link set va up && ip link set vb up"));
+    TempDir dir;
+    const auto pids = dir.path() / "pids";
+    auto stub = dir.write("bin/networkctl", "#!/bin/sh\nsleep 30 & echo $$ $! > '" + pids.string() + "'; wait\n");
+    std::filesystem::permissions(stub, std::filesystem::perms::owner_all);
+    ReferenceServer server({"--policy", dir.write("policy.xml", renewingPolicy).string()},
+                           {"ip", "netns", "exec", ns.name()});
+    ASSERT_TRUE(server.started());
+    const std::string stateDir = (dir.path() / "state").string();
+    const auto log = dir.path() / "agent.log";
+    ChildProcess agent(
+        loggingTo(log, inNamespace(ns, {"env", "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus",
+                                        "PATH=" + (dir.path() / "bin").string() + ":/usr/sbin:/usr/bin:/sbin:/bin",
+                                        TVPOLICY_CLI, "agent", "--json", "--allow-http", "--server", server.url(),
+                                        "--state-dir", stateDir, "--config", "/dev/null"})));
+    std::vector<pid_t> started = testing_support::waitForPidLine(pids, std::chrono::seconds(20));
+    ASSERT_EQ(started.size(), 2u) << "networkctl was not called";
+    expectQuickStop(agent, log, "the address renewal");
+    for (pid_t pid : started) {
+        EXPECT_FALSE(testing_support::processRunning(pid)) << "process " << pid << " of networkctl was left running";
+    }
+    auto status = runCli({"agent", "--status", "--json", "--state-dir", stateDir, "--config", "/dev/null"});
+    ASSERT_EQ(status.exitCode, 0) << status.err;
+    Json verdict = Json::parse(status.out);
+    EXPECT_EQ(verdict["verdict"], "passed");
+    EXPECT_FALSE(verdict.contains("addresses"));
+}
 
 }  // namespace

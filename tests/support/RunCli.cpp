@@ -119,4 +119,10 @@ CliResult runCli(const std::vector<std::string>& args, const std::string& input)
     return runProgram(argv, input);
 }
 
+std::vector<std::string> loggingTo(const std::filesystem::path& log, std::vector<std::string> argv)
+{
+    argv.insert(argv.begin(), {"sh", "-c", "exec \"$0\" \"$@\" 2>>'" + log.string() + "'"});
+    return argv;
+}
+
 }  // namespace testing_support

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -17,5 +18,9 @@ CliResult runCli(const std::vector<std::string>& args, const std::string& input 
 
 /// Runs any program the same way (argv[0] is looked up in PATH).
 CliResult runProgram(const std::vector<std::string>& argv, const std::string& input = "");
+
+/// `argv` run through the shell with its standard error appended to `log` (for a ChildProcess,
+/// whose own streams go to /dev/null).
+std::vector<std::string> loggingTo(const std::filesystem::path& log, std::vector<std::string> argv);
 
 }  // namespace testing_support

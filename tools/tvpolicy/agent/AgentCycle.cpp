@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 #include <nlohmann/json.hpp>
 
@@ -66,9 +67,16 @@ struct AgentCycle::Answer {
     }
 };
 
-AgentCycle::AgentCycle(const AgentSettings& settings, AgentState& state, Console& console,
-                       const std::atomic<bool>& stop)
-    : settings_(settings), state_(state), console_(console), stop_(stop)
+CycleReport stoppedDuring(const std::string& what, std::string scan)
+{
+    return ended(Outcome::stopped, "stopped during " + what, std::move(scan));
+}
+
+AgentCycle::AgentCycle(const AgentSettings& settings, AgentState& state, Console& console, BlockingCalls& calls)
+    : settings_(settings),
+      state_(state),
+      console_(console),
+      calls_(calls)
 {
 }
 
@@ -104,6 +112,7 @@ std::string AgentCycle::behind(const std::string& base, const std::string& url) 
 CycleReport AgentCycle::run(const std::string& base)
 {
     cookie_.clear();
+    scan_.clear();
     const std::string configUrl = base + "agent/config";
     Answer configAnswer = get(configUrl);
     if (!configAnswer.ok()) {
@@ -147,7 +156,13 @@ CycleReport AgentCycle::run(const std::string& base)
             return ended(Outcome::cycleFailed, "the server asks to join a Wi-Fi network " +
                                                    std::string(profile ? "again" : "but names none"));
         }
-        if (!WifiManager().createModifyProfile(*profile)) {
+        const char* joining = "the Wi-Fi join";
+        std::optional<bool> joined =
+            calls_.run(joining, [&profile] { return WifiManager().createModifyProfile(*profile); });
+        if (!joined) {
+            return stoppedDuring(joining);
+        }
+        if (!*joined) {
             return ended(Outcome::cycleFailed, "the Wi-Fi network the server names could not be joined");
         }
     }
@@ -165,6 +180,7 @@ CycleReport AgentCycle::run(const std::string& base)
     if (config->scanUrl.empty()) {
         return ended(Outcome::cycleFailed, "the server's configuration names no scan address", status->getScanName());
     }
+    scan_ = status->getScanName();
     std::string uid = status->getUid().empty() ? config->uid : status->getUid();
     std::string url = withQuery(behind(base, config->scanUrl), "scan=" + BasicHttpRequest::urlEncode(status->getScanName()) +
                                                              "&uid=" + BasicHttpRequest::urlEncode(uid));
@@ -199,12 +215,17 @@ CycleReport AgentCycle::scanAndReport(const std::string& url, const std::string&
             return;
         }
         ++announced;
-        if (!progressUrl.empty() && !stop_) {
+        if (!progressUrl.empty() && !calls_.stopped()) {
             post(progressUrl, "section=" + BasicHttpRequest::urlEncode(*name) + "&done=" + std::to_string(announced) +
                                   "&total=" + std::to_string(total));
         }
     });
-    bool passed = policy->run();
+    const char* running = "the policy run";
+    std::optional<bool> ran = calls_.run(running, [&policy] { return policy->run(); });
+    if (!ran) {
+        return stoppedDuring(running, scan);
+    }
+    bool passed = *ran;
     bool counted = passed || policy->isAuditOnly();
 
     std::vector<Notice> notices = documentNotices(*policy, policyAnswer.transfer.contents);
@@ -237,7 +258,7 @@ CycleReport AgentCycle::scanAndReport(const std::string& url, const std::string&
 void AgentCycle::deliverPending()
 {
     for (const PendingResults& waiting : state_.pending()) {
-        if (stop_) {
+        if (calls_.stopped()) {
             return;
         }
         Answer answer = post(waiting.url, waiting.body, "application/json");

@@ -92,10 +92,31 @@ Wake AgentSignals::wait(std::chrono::milliseconds timeout)
         }
         struct pollfd wake {readEnd_.get(), POLLIN, 0};
         if (::poll(&wake, 1, static_cast<int>(std::min<long long>(left.count(), 3600000))) > 0) {
-            char drain[16];
-            while (::read(readEnd_.get(), drain, sizeof drain) > 0) {
-            }
+            drain();
         }
+    }
+}
+
+bool AgentSignals::waitForStopOr(int fd)
+{
+    for (;;) {
+        if (stopRequested) {
+            return true;
+        }
+        struct pollfd waits[2] = {{readEnd_.get(), POLLIN, 0}, {fd, POLLIN, 0}};
+        if (::poll(waits, 2, -1) > 0) {
+            if (waits[1].revents != 0) {
+                return stopRequested;
+            }
+            drain();  // the flags keep what woke it
+        }
+    }
+}
+
+void AgentSignals::drain()
+{
+    char bytes[16];
+    while (::read(readEnd_.get(), bytes, sizeof bytes) > 0) {
     }
 }
 

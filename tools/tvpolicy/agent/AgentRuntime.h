@@ -28,8 +28,13 @@ public:
     void notify();
     /// Waits up to `timeout` for a stop, a reload or an event (stop first, then reload, then event).
     Wake wait(std::chrono::milliseconds timeout);
+    /// Waits until `fd` is readable or a stop is asked for: true for the stop. A reload or an
+    /// event that comes meanwhile is kept for the next wait().
+    bool waitForStopOr(int fd);
 
 private:
+    void drain();
+
     OwnedFd readEnd_;
     OwnedFd writeEnd_;
     struct sigaction savedInt_ {};

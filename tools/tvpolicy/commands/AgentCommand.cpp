@@ -1,15 +1,18 @@
 // tvpolicy agent: proves this computer's compliance to an access-control server and keeps it
 // proven: fetches the server's policy, runs it, reports the results, and starts again on a
 // timer, when an address changes and when the computer wakes up.
+#include <sys/stat.h>
+#include <unistd.h>
 #include <chrono>
-#include <initializer_list>
+#include <cstdio>
 #include <ctime>
+#include <initializer_list>
+#include <iostream>
 #include <list>
 #include <memory>
 #include <optional>
 #include <random>
 #include <string>
-#include <sys/stat.h>
 #include <thread>
 #include <vector>
 
@@ -23,15 +26,18 @@
 #include <tvpolicy/host/MACChangeNotifier.h>
 #include <tvpolicy/host/PowerChangeNotifier.h>
 
-#include "commands/Command.h"
-#include "report/PolicyReport.h"
 #include "agent/AddressRenewal.h"
 #include "agent/AgentCycle.h"
+#include "agent/AgentHost.h"
 #include "agent/AgentRuntime.h"
 #include "agent/AgentSettings.h"
 #include "agent/AgentState.h"
+#include "agent/BlockingCalls.h"
+#include "agent/CommandGroups.h"
 #include "agent/Discovery.h"
 #include "agent/ServiceManager.h"
+#include "commands/Command.h"
+#include "report/PolicyReport.h"
 
 namespace tvpolicy::cli {
 
@@ -123,6 +129,7 @@ const char* outcomeWord(Outcome outcome)
     case Outcome::nothingToDo: return "nothing-to-do";
     case Outcome::unreached: return "unreached";
     case Outcome::authFailure: return "refused";
+    case Outcome::stopped: return "stopped";
     case Outcome::cycleFailed: break;
     }
     return "cycle-failed";
@@ -148,7 +155,10 @@ public:
 private:
     bool reload(std::string& error);
     CycleReport cycle(const std::string& reason);
+    std::string discover(CycleReport& outcome);
+    void keepVerdict(const Json& verdict);
     Json renewAfterPass(CycleReport& outcome);
+    [[noreturn]] void abandon(const std::string& what);
     Wake nextWake(milliseconds timeout);
     void report(const std::string& reason, const std::string& server, const CycleReport& outcome,
                 std::chrono::steady_clock::time_point started);
@@ -159,11 +169,23 @@ private:
     void runDueMonitors();
     milliseconds untilNextMonitor() const;
 
+    // The cycle under way, for the line that tells it was stopped.
+    struct UnderWay {
+        std::string reason;
+        std::string base;
+        std::string scan;
+        std::chrono::steady_clock::time_point started;
+        const AgentCycle* exchange = nullptr;
+    };
+
     const AgentOptions& options_;
     Console& console_;
     AgentSettings settings_;
     std::unique_ptr<AgentState> state_;
     AgentSignals signals_;
+    CommandGroups commands_;
+    BlockingCalls calls_{signals_, commands_, [this](const std::string& what) { abandon(what); }};
+    std::optional<UnderWay> underWay_;
     std::mt19937 random_{std::random_device{}()};
     std::atomic<const char*> eventReason_{"event"};
     bool reloadCarried_ = false;  // a SIGHUP that came while the agent waited for something else
@@ -209,9 +231,15 @@ void Agent::runDueMonitors()
             ++it;
             continue;
         }
-        std::unique_ptr<com::torvane::policy::MonitorResponse> response((*it)->perform());
+        Monitor& monitor = **it;
+        auto response = calls_.run("a monitor", [&monitor] {
+            return std::unique_ptr<com::torvane::policy::MonitorResponse>(monitor.perform());
+        });
+        if (!response) {
+            return;
+        }
         com::torvane::BasicHttpRequest::transfer(com::torvane::HttpOperation::post, monitorBase_ + "agent/monitor",
-                                                 response->getXML(), "", "", "application/xml");
+                                                 (*response)->getXML(), "", "", "application/xml");
         it = (*it)->getPeriod() > 0 ? it + 1 : monitors_.erase(it);
     }
 }
@@ -245,40 +273,69 @@ bool Agent::reload(std::string& error)
 CycleReport Agent::cycle(const std::string& reason)
 {
     const auto started = std::chrono::steady_clock::now();
-    std::string base = settings_.server;
+    underWay_ = UnderWay{reason, settings_.server, "", started};
     CycleReport outcome;
-    if (base.empty()) {
-        std::string why;
-        base = discoverServer(settings_.discover.empty() ? "tvpolicy" : settings_.discover, settings_.domain,
-                              settings_.allowHttp, signals_.stopFlag(), why);
-        if (base.empty()) {
-            outcome = CycleReport{Outcome::unreached, "", why};
-        }
-    }
+    std::string base = settings_.server.empty() ? discover(outcome) : settings_.server;
+    underWay_->base = base;
     lastBase_ = base;
     if (!base.empty()) {
-        AgentCycle exchange(settings_, *state_, console_, signals_.stopFlag());
+        AgentCycle exchange(settings_, *state_, console_, calls_);
+        underWay_->exchange = &exchange;
         outcome = exchange.run(base);
+        underWay_->exchange = nullptr;
+        underWay_->scan = outcome.scan;
     }
     if (signals_.stopFlag() && (outcome.outcome == Outcome::unreached || outcome.outcome == Outcome::cycleFailed)) {
-        outcome = CycleReport{Outcome::unreached, outcome.scan, "stopped before the cycle ended"};
+        outcome = CycleReport{Outcome::stopped, outcome.scan, "stopped before the cycle ended"};
     }
     if (outcome.outcome == Outcome::passed || outcome.outcome == Outcome::failed) {
-        std::string error;
+        // Kept before the renewal, which a stop may cut short: the verdict stands either way.
         Json verdict = {{"verdict", outcomeWord(outcome.outcome)},
                         {"when", isoTime(std::chrono::system_clock::now())},
                         {"server", base},
                         {"scan", outcome.scan}};
+        keepVerdict(verdict);
         Json addresses = renewAfterPass(outcome);
         if (!addresses.is_null()) {
             verdict["addresses"] = addresses;
-        }
-        if (!state_->saveVerdict(verdict, error)) {
-            console_.err() << "tvpolicy agent: the verdict was not kept: " << error << '\n';
+            keepVerdict(verdict);
         }
     }
     report(reason, base, outcome, started);
+    underWay_.reset();
     return outcome;
+}
+
+// The server's base address from DNS; empty, with `outcome` saying why, when none was found.
+std::string Agent::discover(CycleReport& outcome)
+{
+    struct Found {
+        std::string base;
+        std::string why;
+    };
+    const char* lookingUp = "the DNS discovery";
+    std::optional<Found> found = calls_.run(lookingUp, [this] {
+        Found result;
+        result.base = discoverServer(settings_.discover.empty() ? "tvpolicy" : settings_.discover, settings_.domain,
+                                     settings_.allowHttp, signals_.stopFlag(), result.why);
+        return result;
+    });
+    if (!found) {
+        outcome = stoppedDuring(lookingUp);
+        return std::string();
+    }
+    if (found->base.empty()) {
+        outcome = CycleReport{Outcome::unreached, "", found->why};
+    }
+    return found->base;
+}
+
+void Agent::keepVerdict(const Json& verdict)
+{
+    std::string error;
+    if (!state_->saveVerdict(verdict, error)) {
+        console_.err() << "tvpolicy agent: the verdict was not kept: " << error << '\n';
+    }
 }
 
 // The renewal a passed policy asks for, then the addresses of the renewed interfaces once they
@@ -288,7 +345,13 @@ Json Agent::renewAfterPass(CycleReport& outcome)
     if (!outcome.renewAddress || signals_.stopFlag()) {
         return Json();
     }
-    std::vector<std::string> asked = renewAddresses();
+    const char* renewing = "the address renewal";
+    std::optional<std::vector<std::string>> renewed = calls_.run(renewing, renewAddresses);
+    if (!renewed) {
+        outcome = stoppedDuring(renewing, outcome.scan);
+        return Json();
+    }
+    const std::vector<std::string>& asked = *renewed;
     if (asked.empty()) {
         outcome.message = "no interface's address could be renewed";
         return Json();
@@ -311,6 +374,22 @@ Json Agent::renewAfterPass(CycleReport& outcome)
     }
     outcome.message = "renewed the address of " + names;
     return addressesOf(asked);
+}
+
+// A stop came during a call that did not return in time. The state directory is whole (only
+// this thread writes it, and it is waiting here), so the agent tells the cycle was stopped and
+// ends without unwinding what that call still uses.
+void Agent::abandon(const std::string& what)
+{
+    if (underWay_) {
+        std::string scan = underWay_->exchange != nullptr ? underWay_->exchange->scan() : underWay_->scan;
+        report(underWay_->reason, underWay_->base, stoppedDuring(what, scan), underWay_->started);
+    }
+    notifyServiceManager("STOPPING=1");
+    std::cout.flush();
+    std::clog.flush();
+    std::fflush(nullptr);
+    ::_exit(options_.once ? exitUnreached : exitPassed);
 }
 
 Wake Agent::nextWake(milliseconds timeout)
@@ -406,6 +485,8 @@ void Agent::stopWatches()
 
 int Agent::run()
 {
+    AgentHost host(tvpolicy::systemHost(), commands_);
+    tvpolicy::ScopedHost commandsInGroups(host);
     std::string error;
     if (!reload(error)) {
         console_.err() << "tvpolicy agent: " << error << '\n';
