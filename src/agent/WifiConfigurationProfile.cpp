@@ -77,8 +77,8 @@ std::shared_ptr<WifiConfigurationProfile> WifiConfigurationProfile::parseNode(DO
 {
     auto profile = std::make_shared<WifiConfigurationProfile>();
     tvpolicy::xml::forEachChildElement(profileElement, [&](const XMLCh* tag, const DOMNode* child) {
-        for (const auto& [name, apply] : childRules) {
-            if (tvpolicy::xml::sameName(tag, name)) {
+        for (const auto& [element, apply] : childRules) {
+            if (tvpolicy::xml::sameName(tag, element)) {
                 apply(*profile, detail::nativeTextOf(child));
                 break;
             }
