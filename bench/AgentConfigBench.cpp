@@ -22,12 +22,15 @@ const std::string& configuration()
                           com::torvane::agentSchemaNamespace + "'>\n";
         for (int i = 0; i < 10000; ++i) {
             std::string n = std::to_string(i);
-            doc += "<field name='f" + n + "'><label>Field " + n + "</label><type>SELECT</type>"
-                   "<option><name>A</name><value>a" + n + "</value></option></field>\n";
+            doc += "<field name='f" + n + "'><label>Field " + n +
+                   "</label><type>SELECT</type>"
+                   "<option><name>A</name><value>a" +
+                   n + "</value></option></field>\n";
         }
-        doc += "<loginUrl>https://nac.example/login</loginUrl><scanUrl>https://nac.example/scan</scanUrl>"
-               "<showIntro>false</showIntro><rescanText>Scan again</rescanText><connTestURL>http://t/</connTestURL>"
-               "</config>\n";
+        doc +=
+            "<loginUrl>https://nac.example/login</loginUrl><scanUrl>https://nac.example/scan</scanUrl>"
+            "<showIntro>false</showIntro><rescanText>Scan again</rescanText><connTestURL>http://t/</connTestURL>"
+            "</config>\n";
         return doc;
     }();
     return text;

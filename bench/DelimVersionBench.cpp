@@ -15,7 +15,7 @@ namespace {
 const std::vector<std::pair<std::string, std::string>>& pairs()
 {
     static const std::vector<std::pair<std::string, std::string>> versions = {
-        {"10.6.8", "10.6"}, {"10.5.9", "10.6"}, {"10.7", "10.6.8"}, {"4.2", "4.2"},
+        {"10.6.8", "10.6"},           {"10.5.9", "10.6"},     {"10.7", "10.6.8"},     {"4.2", "4.2"},
         {"2011.03.15", "2011.04.01"}, {"10.4.11", "10.4.11"}, {"1.2.3.4", "1.2.3.5"}, {"12", "9"}};
     return versions;
 }

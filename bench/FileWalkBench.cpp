@@ -127,10 +127,7 @@ void BM_find_files_generated_vs_find(benchmark::State& state)
 }
 BENCHMARK(BM_find_files_generated_vs_find)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
 
-void BM_find_files_usr_vs_find(benchmark::State& state)
-{
-    compareWithFind(state, "/usr", "libc.so.6");
-}
+void BM_find_files_usr_vs_find(benchmark::State& state) { compareWithFind(state, "/usr", "libc.so.6"); }
 BENCHMARK(BM_find_files_usr_vs_find)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
 
 }  // namespace

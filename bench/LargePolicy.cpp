@@ -8,8 +8,11 @@ std::string largePolicySection(int index)
     std::string group = "g" + std::to_string(index / 4);
     bool primary = index % 4 == 0;
     return "  <section name=\"Section " + number + "\" group=\"" + group + "\"" + (primary ? " primary=\"true\"" : "") +
-           " instr=\"http://nac.example.test/help/" + number + "\">\n"
-           "    <help>Section " + number + " checks that the workstation keeps its settings.</help>\n"
+           " instr=\"http://nac.example.test/help/" + number +
+           "\">\n"
+           "    <help>Section " +
+           number +
+           " checks that the workstation keeps its settings.</help>\n"
            "    <and>\n"
            "      <or><false/><Validate status=\"true\"/><not><false/></not></or>\n"
            "      <not><and><true/><Validate status=\"false\"/></and></not>\n"

@@ -79,7 +79,8 @@ void BM_post2(benchmark::State& state)
             break;
         }
     }
-    state.counters["round_trips"] = benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+    state.counters["round_trips"] =
+        benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(BM_post2)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
@@ -87,13 +88,14 @@ void BM_post2_peer_curl(benchmark::State& state)
 {
     std::string url = reportServer().url();
     for (auto _ : state) {
-        if (!bench::runQuietly({"curl", "-s", "-o", "/dev/null", "-A", "KVA Agent", "-b", "sid=1", "--data", reportFields,
-                                "--fail", url})) {
+        if (!bench::runQuietly({"curl", "-s", "-o", "/dev/null", "-A", "KVA Agent", "-b", "sid=1", "--data",
+                                reportFields, "--fail", url})) {
             state.SkipWithError("curl failed");
             break;
         }
     }
-    state.counters["round_trips"] = benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+    state.counters["round_trips"] =
+        benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(BM_post2_peer_curl)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
@@ -111,12 +113,13 @@ public:
         ::getsockname(fd, reinterpret_cast<sockaddr*>(&address), &length);
         ::close(fd);
         port_ = ntohs(address.sin_port);
-        pid_ = bench::spawnQuietly({"dnsmasq", "--keep-in-foreground", "--no-resolv", "--no-hosts", "--bind-interfaces",
-                                    "--listen-address=127.0.0.1", "--port=" + std::to_string(port_), "--pid-file=",
-                                    "--user=root", "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,60",
-                                    "--srv-host=_agent._tcp.corp.test,b.corp.test,443,10,20",
-                                    "--srv-host=_agent._tcp.corp.test,c.corp.test,8443,5,0",
-                                    "--srv-host=_agent._tcp.corp.test,d.corp.test,8443,20,0"});
+        pid_ =
+            bench::spawnQuietly({"dnsmasq", "--keep-in-foreground", "--no-resolv", "--no-hosts", "--bind-interfaces",
+                                 "--listen-address=127.0.0.1", "--port=" + std::to_string(port_),
+                                 "--pid-file=", "--user=root", "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,60",
+                                 "--srv-host=_agent._tcp.corp.test,b.corp.test,443,10,20",
+                                 "--srv-host=_agent._tcp.corp.test,c.corp.test,8443,5,0",
+                                 "--srv-host=_agent._tcp.corp.test,d.corp.test,8443,20,0"});
         if (pid_ < 0) {
             throw std::runtime_error("cannot start dnsmasq");
         }
@@ -167,7 +170,8 @@ void BM_SRVRecord_lookup_peer_dig(benchmark::State& state)
 {
     std::string port = std::to_string(dnsmasq().port());
     for (auto _ : state) {
-        if (!bench::runQuietly({"dig", "@127.0.0.1", "-p", port, "+short", "+tries=1", "SRV", "_agent._tcp.corp.test"})) {
+        if (!bench::runQuietly(
+                {"dig", "@127.0.0.1", "-p", port, "+short", "+tries=1", "SRV", "_agent._tcp.corp.test"})) {
             state.SkipWithError("dig failed");
             break;
         }

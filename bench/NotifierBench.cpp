@@ -69,7 +69,8 @@ bool changeAddress(int socket, bool add, unsigned index, in_addr_t address)
     request.message.ifa_prefixlen = 32;
     request.message.ifa_index = index;
     for (unsigned short type : {IFA_LOCAL, IFA_ADDRESS}) {
-        auto* attribute = reinterpret_cast<rtattr*>(reinterpret_cast<char*>(&request) + NLMSG_ALIGN(request.header.nlmsg_len));
+        auto* attribute =
+            reinterpret_cast<rtattr*>(reinterpret_cast<char*>(&request) + NLMSG_ALIGN(request.header.nlmsg_len));
         attribute->rta_type = type;
         attribute->rta_len = RTA_LENGTH(sizeof address);
         std::memcpy(RTA_DATA(attribute), &address, sizeof address);

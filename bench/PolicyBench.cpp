@@ -14,9 +14,9 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <iterator>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <streambuf>
 #include <string>

@@ -72,8 +72,8 @@ testing_support::PrivateBus* mockedSystemd()
         const char* manager = "org.freedesktop.systemd1.Manager";
         auto started = std::make_unique<testing_support::PrivateBus>();
         if (!testing_support::PrivateBus::skipReason().empty() || !started->start() ||
-            !started->startMock("systemd", {systemd1, path, "org.freedesktop.DBus.Properties", "Get", "ss", manager,
-                                            "Version"})) {
+            !started->startMock("systemd",
+                                {systemd1, path, "org.freedesktop.DBus.Properties", "Get", "ss", manager, "Version"})) {
             return std::unique_ptr<testing_support::PrivateBus>();
         }
         started->mockControl(systemd1, path, "AddMockUnit", "s", {"ssh.service"});
@@ -98,8 +98,9 @@ void BM_posture_ServiceActive_peer_busctl(benchmark::State& state)
         return;
     }
     // What `systemctl is-active ssh` asks: the unit's object, then its ActiveState.
-    runShellLoop(state, "busctl --system get-property org.freedesktop.systemd1 "
-                        "/org/freedesktop/systemd1/unit/ssh_2eservice org.freedesktop.systemd1.Unit ActiveState");
+    runShellLoop(state,
+                 "busctl --system get-property org.freedesktop.systemd1 "
+                 "/org/freedesktop/systemd1/unit/ssh_2eservice org.freedesktop.systemd1.Unit ActiveState");
 }
 #endif
 

@@ -61,9 +61,12 @@ std::string durationText(std::chrono::milliseconds interval)
 
 std::string asToml(const AgentSettings& settings)
 {
-    toml::table table{{"server", settings.server},     {"discover", settings.discover},
-                      {"domain", settings.domain},     {"state_dir", settings.stateDir},
-                      {"cacert", settings.cacert},     {"allow_http", settings.allowHttp},
+    toml::table table{{"server", settings.server},
+                      {"discover", settings.discover},
+                      {"domain", settings.domain},
+                      {"state_dir", settings.stateDir},
+                      {"cacert", settings.cacert},
+                      {"allow_http", settings.allowHttp},
                       {"interval", durationText(settings.interval)}};
     if (settings.scripts.any) {
         table.insert("scripts", "any");

@@ -37,7 +37,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
 
     std::string stripped = bodyAfterPreamble(body);
-    if (stripped.size() > body.size() || body.compare(body.size() - stripped.size(), std::string::npos, stripped) != 0) {
+    if (stripped.size() > body.size() ||
+        body.compare(body.size() - stripped.size(), std::string::npos, stripped) != 0) {
         std::abort();  // a tail of the body
     }
     std::string cookie;

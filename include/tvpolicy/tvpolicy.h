@@ -66,8 +66,8 @@
 #include <tvpolicy/checks/VersionFromReceiptTask.h>
 #include <tvpolicy/checks/VersionFromScriptTask.h>
 #include <tvpolicy/host/ApplicationInventoryItem.h>
-#include <tvpolicy/host/EventProbe.h>
 #include <tvpolicy/host/DescribedHostProbe.h>
+#include <tvpolicy/host/EventProbe.h>
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/IPChangeNotifier.h>
 #include <tvpolicy/host/MACChangeNotifier.h>

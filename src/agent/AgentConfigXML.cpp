@@ -1,11 +1,10 @@
 #include <tvpolicy/agent/AgentConfigXML.h>
 
-
 #include <tvpolicy/agent/AgentSchema.h>
 
 #include "agent/AgentDocument.h"
-#include "xml/ElementIndex.h"
 #include "xml/DomText.h"
+#include "xml/ElementIndex.h"
 
 namespace com::torvane {
 

@@ -17,9 +17,9 @@ namespace {
 using tvpolicy::net::appendBounded;
 using tvpolicy::net::bodyAfterPreamble;
 using tvpolicy::net::BoundedText;
+using tvpolicy::net::cookieIn;
 using tvpolicy::net::CurlHandle;
 using tvpolicy::net::CurlList;
-using tvpolicy::net::cookieIn;
 
 const char* const compatibilityUserAgent = "KVA Agent";
 const std::string agentUserAgent = "Torvane-Agent/5.2.6.69 (" + Machine::getOSString() + ";)";
@@ -95,9 +95,9 @@ struct FileCloser {
 
 }  // namespace
 
-HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::string& url,
-                                        const std::string& postFields, const std::string& cookie,
-                                        const std::string& path, const std::string& contentType)
+HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::string& url, const std::string& postFields,
+                                        const std::string& cookie, const std::string& path,
+                                        const std::string& contentType)
 {
     using Op = HttpOperation;
     HttpBounds bounds = currentBounds();

@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <iostream>
 
-#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/host/HostProbe.h>
 
 namespace com::torvane {
 

@@ -12,7 +12,9 @@ using namespace xercesc;
 using tvpolicy::xml::sameName;
 
 LoginField::LoginField(std::string fieldName, std::string fieldLabel, Type fieldType)
-    : name(std::move(fieldName)), label(std::move(fieldLabel)), type(fieldType)
+    : name(std::move(fieldName)),
+      label(std::move(fieldLabel)),
+      type(fieldType)
 {
 }
 

@@ -11,7 +11,10 @@ namespace com::torvane {
 
 SRVRecord::SRVRecord(std::int32_t recordPriority, std::int32_t recordWeight, std::string target,
                      std::uint32_t targetPort)
-    : priority(recordPriority), weight(recordWeight), name(std::move(target)), port(targetPort)
+    : priority(recordPriority),
+      weight(recordWeight),
+      name(std::move(target)),
+      port(targetPort)
 {
 }
 
@@ -40,7 +43,8 @@ std::list<const SRVRecord*> SRVRecord::lookupMacOSX(const char* service, const c
 {
     std::list<const SRVRecord*> records;
     for (auto& answer : tvpolicy::parse::srvAnswers(lookUp(service, protocol, domain, ns_t_srv, server))) {
-        auto record = std::make_unique<SRVRecord>(answer.priority, answer.weight, std::move(answer.target), answer.port);
+        auto record =
+            std::make_unique<SRVRecord>(answer.priority, answer.weight, std::move(answer.target), answer.port);
         records.push_back(record.get());
         record.release();
     }

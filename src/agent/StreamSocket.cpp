@@ -181,10 +181,7 @@ bool StreamSocket::connect(const char* hostName, int port)
     return false;
 }
 
-ssize_t StreamSocket::send(const void* data, size_t length)
-{
-    return ::send(socket, data, length, MSG_NOSIGNAL);
-}
+ssize_t StreamSocket::send(const void* data, size_t length) { return ::send(socket, data, length, MSG_NOSIGNAL); }
 
 ssize_t StreamSocket::receive(char* buffer, int length)
 {

@@ -6,8 +6,8 @@
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLString.hpp>
 
-#include "xml/XmlPlatform.h"
 #include "xml/DomText.h"
+#include "xml/XmlPlatform.h"
 
 using namespace xercesc;
 
@@ -31,8 +31,8 @@ char* transcodeWith(XMLTranscoder& transcoder, const XMLCh* text)
     char* buffer = new char[capacity + 1];
     XMLSize_t eaten = 0;
     XMLSize_t written = units == 0 ? 0
-        : transcoder.transcodeTo(text, units, reinterpret_cast<XMLByte*>(buffer), capacity, eaten,
-                                 XMLTranscoder::UnRep_RepChar);
+                                   : transcoder.transcodeTo(text, units, reinterpret_cast<XMLByte*>(buffer), capacity,
+                                                            eaten, XMLTranscoder::UnRep_RepChar);
     buffer[written] = '\0';
     return buffer;
 }
@@ -70,8 +70,8 @@ void TV_XMLTranscoder::transcodeToUtf8StdString(const XMLCh* text, std::string& 
     out = buffer.get();
 }
 
-void extractTextByTagName(DOMDocument* doc, const char* tagName, const XMLCh* namespaceUri,
-                          TV_XMLTranscoder&, std::string& out)
+void extractTextByTagName(DOMDocument* doc, const char* tagName, const XMLCh* namespaceUri, TV_XMLTranscoder&,
+                          std::string& out)
 {
     if (doc == nullptr) {
         return;

@@ -17,8 +17,8 @@ namespace {
 template <typename Value, std::size_t N>
 bool lookUp(const std::pair<const char*, Value> (&table)[N], const std::string& word, Value& value)
 {
-    auto found = std::find_if(std::begin(table), std::end(table),
-                              [&](const auto& entry) { return word == entry.first; });
+    auto found =
+        std::find_if(std::begin(table), std::end(table), [&](const auto& entry) { return word == entry.first; });
     if (found == std::end(table)) {
         return false;
     }
@@ -28,14 +28,19 @@ bool lookUp(const std::pair<const char*, Value> (&table)[N], const std::string& 
 
 using Profile = WifiConfigurationProfile;
 
-const std::pair<const char*, Profile::EAPType> eapWords[] = {
-    {"TLS", Profile::TLS}, {"LEAP", Profile::LEAP}, {"TTLS", Profile::TTLS},
-    {"PEAP", Profile::PEAP}, {"EAP_SIM", Profile::EAP_SIM}};
+const std::pair<const char*, Profile::EAPType> eapWords[] = {{"TLS", Profile::TLS},
+                                                             {"LEAP", Profile::LEAP},
+                                                             {"TTLS", Profile::TTLS},
+                                                             {"PEAP", Profile::PEAP},
+                                                             {"EAP_SIM", Profile::EAP_SIM}};
 
-const std::pair<const char*, Profile::Security> securityWords[] = {
-    {"OPEN", Profile::OPEN}, {"WEP", Profile::WEP}, {"WEP_ENTERPRISE", Profile::WEP_ENTERPRISE},
-    {"WPA", Profile::WPA}, {"WPA_ENTERPRISE", Profile::WPA_ENTERPRISE}, {"WPA2", Profile::WPA2},
-    {"WPA2_ENTERPRISE", Profile::WPA2_ENTERPRISE}};
+const std::pair<const char*, Profile::Security> securityWords[] = {{"OPEN", Profile::OPEN},
+                                                                   {"WEP", Profile::WEP},
+                                                                   {"WEP_ENTERPRISE", Profile::WEP_ENTERPRISE},
+                                                                   {"WPA", Profile::WPA},
+                                                                   {"WPA_ENTERPRISE", Profile::WPA_ENTERPRISE},
+                                                                   {"WPA2", Profile::WPA2},
+                                                                   {"WPA2_ENTERPRISE", Profile::WPA2_ENTERPRISE}};
 
 const std::pair<const char*, Profile::Cipher> cipherWords[] = {{"AES", Profile::AES}, {"TKIP", Profile::TKIP}};
 

@@ -9,8 +9,8 @@
 
 #include <unistd.h>
 
-#include <tvpolicy/host/NetworkProbe.h>
 #include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/host/NetworkProbe.h>
 
 #include <tvpolicy/base/Utf8.h>
 #include "host/CurrentWifi.h"
@@ -59,17 +59,20 @@ struct JoinTexts {
     const char* caught;
 };
 
-const JoinTexts connectTexts = {
-    "ConnectToNetwork Already connected to target ssid", "ConnectToProfile Signal: ",
-    "connectToProfile attempting associateToNetwork.", "ConnectToProfile Network Signal Not Found...",
-    "connectToProfile AssociateToEnterpriseNetwork NSError: ", "connectToProfile AssociateToEnterpriseNetwork NSError: ",
-    "connectToProfile associateToNetwork completed.", "ConnectToProfile: Caught "};
+const JoinTexts connectTexts = {"ConnectToNetwork Already connected to target ssid",
+                                "ConnectToProfile Signal: ",
+                                "connectToProfile attempting associateToNetwork.",
+                                "ConnectToProfile Network Signal Not Found...",
+                                "connectToProfile AssociateToEnterpriseNetwork NSError: ",
+                                "connectToProfile AssociateToEnterpriseNetwork NSError: ",
+                                "connectToProfile associateToNetwork completed.",
+                                "ConnectToProfile: Caught "};
 
 const JoinTexts createTexts = {
-    "CreateModifyProfile Already connected to target ssid", "CreateModifyProfile Signal: ",
-    "CreateModifyProfile attempting associateToNetwork.", "CreateModifyProfile Network Signal Not Found...",
+    "CreateModifyProfile Already connected to target ssid",        "CreateModifyProfile Signal: ",
+    "CreateModifyProfile attempting associateToNetwork.",          "CreateModifyProfile Network Signal Not Found...",
     "CreateModifyProfile: AssociateToEnterpriseNetwork NSError: ", "CreateModifyProfile: AssociateToNetwork NSError: ",
-    "CreateModifyProfile: associateToNetwork completed.", "CreateModifyProfile: Caught "};
+    "CreateModifyProfile: associateToNetwork completed.",          "CreateModifyProfile: Caught "};
 
 std::string orNull(const std::string& text) { return text.empty() ? "(null)" : text; }
 

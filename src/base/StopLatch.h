@@ -69,7 +69,11 @@ private:
 /// Attaches a wake-up to a latch for the length of a scope.
 class StopAttachment {
 public:
-    StopAttachment(StopLatch& latch, std::function<void()> wake) : latch_(latch), attached_(latch.attach(std::move(wake))) {}
+    StopAttachment(StopLatch& latch, std::function<void()> wake)
+        : latch_(latch),
+          attached_(latch.attach(std::move(wake)))
+    {
+    }
     ~StopAttachment()
     {
         if (attached_) {

@@ -1,11 +1,11 @@
 #include <tvpolicy/base/Utilities.h>
 
 #include <array>
-#include <utility>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <utility>
 
 #include <tvpolicy/base/Timestamp.h>
 
@@ -33,10 +33,7 @@ struct PipeCloser {
 
 }  // namespace
 
-void debug(std::string message, std::string)
-{
-    tvi::LogLine(std::clog) << "Debug: " << message;
-}
+void debug(std::string message, std::string) { tvi::LogLine(std::clog) << "Debug: " << message; }
 
 void split(std::string& text, std::string& delimiters, std::list<std::string>& tokens)
 {
@@ -82,8 +79,8 @@ std::string urlencode(std::string text)
         std::array<const char*, 256> table{};
         const std::pair<char, const char*> entries[] = {
             {'%', "%25"}, {'\r', "%0D"}, {'\n', "%0A"}, {' ', "%20"}, {'"', "%22"}, {'#', "%23"},
-            {'&', "%26"}, {',', "%2C"}, {'.', "%2E"}, {'/', "%2F"}, {':', "%3A"}, {';', "%3B"},
-            {'<', "%3C"}, {'=', "%3D"}, {'>', "%3E"}, {'?', "%3F"},
+            {'&', "%26"}, {',', "%2C"},  {'.', "%2E"},  {'/', "%2F"}, {':', "%3A"}, {';', "%3B"},
+            {'<', "%3C"}, {'=', "%3D"},  {'>', "%3E"},  {'?', "%3F"},
         };
         for (const auto& [character, code] : entries) {
             table[static_cast<unsigned char>(character)] = code;

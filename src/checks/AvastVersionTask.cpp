@@ -14,7 +14,8 @@
 
 bool AvastVersionTask::dummy = TaskFactory::addTask("AvastVersionTask", &AvastVersionTask::create);
 namespace {
-const bool described = tvpolicy::TaskCatalog::describe("AvastVersionTask", tvpolicy::checks::versionCheckAttributes({"startPath", "fileName"}));
+const bool described = tvpolicy::TaskCatalog::describe(
+    "AvastVersionTask", tvpolicy::checks::versionCheckAttributes({"startPath", "fileName"}));
 }  // namespace
 
 Task* AvastVersionTask::create() { return new AvastVersionTask; }

@@ -83,7 +83,8 @@ bool DelimVersion::versionAtLeast(std::string requested, std::string delim, std:
     return compare(requested, delim, comparison, system);
 }
 
-bool DelimVersion::versionAtLeastReorder(std::string requested, std::string delim, std::string system, std::string order)
+bool DelimVersion::versionAtLeastReorder(std::string requested, std::string delim, std::string system,
+                                         std::string order)
 {
     std::string comparison = comparisonText(system, delim);
     if (!order.empty()) {
@@ -91,8 +92,8 @@ bool DelimVersion::versionAtLeastReorder(std::string requested, std::string deli
         std::vector<unsigned> indexes = readOrder(order, maximum);
         std::vector<std::string> words;
         split(system, delim, words);
-        trace("Words.size() = " + std::to_string(words.size()) + " max = " + std::to_string(maximum) + "\nordr size = " +
-              std::to_string(indexes.size()));
+        trace("Words.size() = " + std::to_string(words.size()) + " max = " + std::to_string(maximum) +
+              "\nordr size = " + std::to_string(indexes.size()));
         if (words.size() <= maximum) {
             trace("Words.size() not > max???");
         } else {
@@ -109,12 +110,14 @@ bool DelimVersion::versionAtLeastReorder(std::string requested, std::string deli
     return compare(requested, delim, comparison, system);
 }
 
-bool DelimVersion::versionAtLeastFromRegistry(std::string, std::string, std::string, std::string, std::string, std::string)
+bool DelimVersion::versionAtLeastFromRegistry(std::string, std::string, std::string, std::string, std::string,
+                                              std::string)
 {
     return false;
 }
 
-bool DelimVersion::compare(std::string& requested, std::string& delim, std::string& comparison, const std::string& system) const
+bool DelimVersion::compare(std::string& requested, std::string& delim, std::string& comparison,
+                           const std::string& system) const
 {
     std::vector<std::string> requestedWords;
     std::vector<std::string> systemWords;
@@ -147,9 +150,7 @@ bool DelimVersion::compare(std::string& requested, std::string& delim, std::stri
                 retval = s >= r;
                 done = s > r;
                 break;
-            case eq:
-                retval = s == r;
-                break;
+            case eq: retval = s == r; break;
             case lte:
                 retval = s <= r;
                 done = s < r;

@@ -24,14 +24,10 @@ EntryKind kindOfMode(mode_t mode)
 EntryKind kindOfType(unsigned char type)
 {
     switch (type) {
-    case DT_DIR:
-        return EntryKind::directory;
-    case DT_LNK:
-        return EntryKind::symlink;
-    case DT_UNKNOWN:
-        return EntryKind::unknown;
-    default:
-        return EntryKind::other;
+    case DT_DIR: return EntryKind::directory;
+    case DT_LNK: return EntryKind::symlink;
+    case DT_UNKNOWN: return EntryKind::unknown;
+    default: return EntryKind::other;
     }
 }
 

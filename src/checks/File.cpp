@@ -1,17 +1,20 @@
 #include <tvpolicy/checks/File.h>
 
 #include <algorithm>
-#include <ctime>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
-#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/base/Utilities.h>
+#include <tvpolicy/host/HostProbe.h>
 
 #include "checks/DirectoryStream.h"
 
 File::File(std::string name, bool execute, std::string args, std::string startPath)
-    : name_(std::move(name)), execute_(execute), args_(std::move(args)), startPath_(std::move(startPath))
+    : name_(std::move(name)),
+      execute_(execute),
+      args_(std::move(args)),
+      startPath_(std::move(startPath))
 {
 }
 

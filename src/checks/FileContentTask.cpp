@@ -69,7 +69,8 @@ private:
         if (text.size() > fileLimit) {
             return unknown(path + " is larger than 16 MB");
         }
-        std::unique_ptr<pcre2_match_data, MatchDataFree> data(pcre2_match_data_create_from_pattern(code.get(), nullptr));
+        std::unique_ptr<pcre2_match_data, MatchDataFree> data(
+            pcre2_match_data_create_from_pattern(code.get(), nullptr));
         std::unique_ptr<pcre2_match_context, MatchContextFree> context(pcre2_match_context_create(nullptr));
         if (!data || !context) {
             return unknown("out of memory for matching");

@@ -12,7 +12,8 @@
 
 bool FileTask::whatever = TaskFactory::addTask("FileTask", &FileTask::create);
 namespace {
-const bool described = tvpolicy::TaskCatalog::describe("FileTask", {"fileName", "startPath", "lastModified", "version", "execute", "args", "wait"});
+const bool described = tvpolicy::TaskCatalog::describe(
+    "FileTask", {"fileName", "startPath", "lastModified", "version", "execute", "args", "wait"});
 }  // namespace
 
 Task* FileTask::create() { return new FileTask; }

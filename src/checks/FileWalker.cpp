@@ -25,7 +25,8 @@ void appendName(std::string& path, const char* name)
 
 [[noreturn]] void fail(const std::string& root, int error)
 {
-    throw std::filesystem::filesystem_error("cannot search directory", root, std::error_code(error, std::generic_category()));
+    throw std::filesystem::filesystem_error("cannot search directory", root,
+                                            std::error_code(error, std::generic_category()));
 }
 
 }  // namespace

@@ -30,6 +30,9 @@ TaskResponse* FlushDNS::perform()
 
 std::string FlushDNS::getType() { return "FlushDNS"; }
 
-int FlushDNS::flushDNSdscacheutil() { return tvpolicy::currentHost().runShellCommand(tvpolicy::dscacheutilFlushCommand); }
+int FlushDNS::flushDNSdscacheutil()
+{
+    return tvpolicy::currentHost().runShellCommand(tvpolicy::dscacheutilFlushCommand);
+}
 
 int FlushDNS::flushDNSlookupd() { return tvpolicy::currentHost().runShellCommand(tvpolicy::lookupdFlushCommand); }

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include <tvpolicy/checks/DelimVersion.h>
 #include <tvpolicy/base/Utilities.h>
+#include <tvpolicy/checks/DelimVersion.h>
 
 namespace tvpolicy {
 

@@ -4,19 +4,20 @@
 #include <iostream>
 #include <vector>
 
-#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
+#include "base/LogLine.h"
 #include "checks/DirectoryStream.h"
 #include "checks/TaskAttributes.h"
-#include "base/LogLine.h"
 
 bool McAfeeVirusScanVersionTask::dummy =
     TaskFactory::addTask("McAfeeVirusScanVersionTask", &McAfeeVirusScanVersionTask::create);
 namespace {
-const bool described = tvpolicy::TaskCatalog::describe("McAfeeVirusScanVersionTask", tvpolicy::checks::versionCheckAttributes({}));
+const bool described =
+    tvpolicy::TaskCatalog::describe("McAfeeVirusScanVersionTask", tvpolicy::checks::versionCheckAttributes({}));
 }  // namespace
 
 Task* McAfeeVirusScanVersionTask::create() { return new McAfeeVirusScanVersionTask; }

@@ -16,11 +16,11 @@
 #include <tvpolicy/policy/TaskFactory.h>
 #include <tvpolicy/policy/TaskResponse.h>
 
+#include "base/LogLine.h"
 #include "xml/DomReader.h"
 #include "xml/DomText.h"
 #include "xml/ProblemLog.h"
 #include "xml/XmlText.h"
-#include "base/LogLine.h"
 
 namespace com::torvane::policy {
 

@@ -2,8 +2,8 @@
 
 #include <iostream>
 
-#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/host/HostProbe.h>
 #include "base/LogLine.h"
 #include "host/ProcessNames.h"
 

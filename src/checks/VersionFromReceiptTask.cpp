@@ -12,7 +12,8 @@
 
 bool VersionFromReceiptTask::dummy = TaskFactory::addTask("VersionFromReceiptTask", &VersionFromReceiptTask::create);
 namespace {
-const bool described = tvpolicy::TaskCatalog::describe("VersionFromReceiptTask", tvpolicy::checks::versionCheckAttributes({"pkg"}));
+const bool described =
+    tvpolicy::TaskCatalog::describe("VersionFromReceiptTask", tvpolicy::checks::versionCheckAttributes({"pkg"}));
 }  // namespace
 
 Task* VersionFromReceiptTask::create() { return new VersionFromReceiptTask; }
@@ -29,8 +30,8 @@ std::string VersionFromReceiptTask::foundVersion()
     std::string major;
     std::string minor;
     if (!pkg_.empty()) {
-        std::ifstream receipt(tvpolicy::currentHost().systemPath("/Library/Receipts/" + pkg_ +
-                                                                 "/Contents/Resources/package_version"));
+        std::ifstream receipt(
+            tvpolicy::currentHost().systemPath("/Library/Receipts/" + pkg_ + "/Contents/Resources/package_version"));
         std::string line;
         while (std::getline(receipt, line)) {
             std::istringstream words(line);

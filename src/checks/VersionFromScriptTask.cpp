@@ -9,7 +9,8 @@
 
 bool VersionFromScriptTask::dummy = TaskFactory::addTask("VersionFromScriptTask", &VersionFromScriptTask::create);
 namespace {
-const bool described = tvpolicy::TaskCatalog::describe("VersionFromScriptTask", tvpolicy::checks::versionCheckAttributes({"script"}));
+const bool described =
+    tvpolicy::TaskCatalog::describe("VersionFromScriptTask", tvpolicy::checks::versionCheckAttributes({"script"}));
 }  // namespace
 
 Task* VersionFromScriptTask::create() { return new VersionFromScriptTask; }

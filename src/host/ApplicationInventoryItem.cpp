@@ -18,14 +18,10 @@ using Format = HostProbe::ApplicationListing::Format;
 std::vector<tvpolicy::parse::InstalledApplication> applicationsOf(const HostProbe::ApplicationListing& listing)
 {
     switch (listing.format) {
-    case Format::PropertyList:
-        return tvpolicy::parse::applicationsFromProfiler(listing.text, std::cout, std::cerr);
-    case Format::DpkgStatus:
-        return tvpolicy::parse::packagesFromDpkgStatus(listing.text);
-    case Format::RpmQuery:
-        return tvpolicy::parse::packagesFromRpmQuery(listing.text);
-    case Format::None:
-        break;
+    case Format::PropertyList: return tvpolicy::parse::applicationsFromProfiler(listing.text, std::cout, std::cerr);
+    case Format::DpkgStatus: return tvpolicy::parse::packagesFromDpkgStatus(listing.text);
+    case Format::RpmQuery: return tvpolicy::parse::packagesFromRpmQuery(listing.text);
+    case Format::None: break;
     }
     return {};
 }
@@ -36,8 +32,8 @@ ApplicationInventory ApplicationInventoryItem::getInstances()
 {
     ApplicationInventory inventory;
     for (auto& application : applicationsOf(tvpolicy::currentHost().applicationListing())) {
-        inventory.push_back(
-            std::make_shared<ApplicationInventoryItem>(std::move(application.name), std::string(), std::move(application.version)));
+        inventory.push_back(std::make_shared<ApplicationInventoryItem>(std::move(application.name), std::string(),
+                                                                       std::move(application.version)));
     }
     return inventory;
 }

@@ -8,14 +8,14 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <tvpolicy/host/HostProbe.h>
-#include <tvpolicy/host/NetworkProbe.h>
 #include <tvpolicy/base/OwnedFd.h>
 #include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/base/Utilities.h>
+#include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/NetworkProbe.h>
 
-#include "host/parse/GuestTools.h"
 #include "base/LogLine.h"
+#include "host/parse/GuestTools.h"
 
 namespace com::torvane::api {
 
@@ -48,8 +48,8 @@ std::string shellWord(const std::string& path)
 // The ids of the users that run a process whose short name is `process`.
 std::vector<std::string> usersRunning(tvpolicy::NetworkProbe& network, const std::string& process)
 {
-    return words(network.commandOutput(
-        "ps -A -o \"uid,comm\" | grep \"" + process + "$\" | sort -u | awk '{print $1}'", 256));
+    return words(
+        network.commandOutput("ps -A -o \"uid,comm\" | grep \"" + process + "$\" | sort -u | awk '{print $1}'", 256));
 }
 
 std::string asUser(const std::string& uid) { return "sudo -u \\#" + uid + " "; }
@@ -85,7 +85,8 @@ void NetworkInterface::getVBoxGuestInterfaces(NetworkInterfaceMap& interfaces)
         std::size_t machineIndex = 0;
         for (const std::string& machine : tvpolicy::parse::vboxMachineIds(machines)) {
             std::string info = network.commandOutput(
-                asUser(uid) + manage + " showvminfo --machinereadable " + machine + "| /usr/bin/grep ^macaddress", 8192);
+                asUser(uid) + manage + " showvminfo --machinereadable " + machine + "| /usr/bin/grep ^macaddress",
+                8192);
             std::size_t adapterIndex = 0;
             for (const std::string& token : words(info)) {
                 std::string raw = tvpolicy::parse::vboxQuotedValue(token);

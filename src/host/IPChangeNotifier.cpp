@@ -4,13 +4,13 @@
 #include <exception>
 #include <iostream>
 
+#include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/host/EventProbe.h>
 #include <tvpolicy/host/NetworkInterface.h>
-#include <tvpolicy/base/Timestamp.h>
 
-#include "host/NotifierSlots.h"
-#include "base/StopLatch.h"
 #include "base/LogLine.h"
+#include "base/StopLatch.h"
+#include "host/NotifierSlots.h"
 
 namespace com::torvane::api {
 
@@ -42,7 +42,8 @@ void IPChangeNotifier::run(bool once)
     for (;;) {
         std::chrono::milliseconds timeout(-1);
         if (once) {
-            timeout = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+            timeout =
+                std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
             if (timeout.count() <= 0) {
                 return;
             }

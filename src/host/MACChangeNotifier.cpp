@@ -5,12 +5,12 @@
 #include <iostream>
 #include <unordered_set>
 
-#include <tvpolicy/host/NetworkInterface.h>
 #include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/host/NetworkInterface.h>
 
-#include "host/NotifierSlots.h"
-#include "base/StopLatch.h"
 #include "base/LogLine.h"
+#include "base/StopLatch.h"
+#include "host/NotifierSlots.h"
 
 namespace com::torvane::api {
 
@@ -35,7 +35,8 @@ std::vector<std::string> currentKeys()
 }  // namespace
 
 MACChangeNotifier::MACChangeNotifier(int periodSeconds)
-    : period_(std::max(periodSeconds, shortestPeriod)), stop_(std::make_unique<tvpolicy::StopLatch>())
+    : period_(std::max(periodSeconds, shortestPeriod)),
+      stop_(std::make_unique<tvpolicy::StopLatch>())
 {
 }
 

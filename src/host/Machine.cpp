@@ -5,10 +5,10 @@
 #include <optional>
 #include <vector>
 
-#include <tvpolicy/host/HostProbe.h>
-#include <tvpolicy/host/NetworkInterface.h>
 #include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/base/Utilities.h>
+#include <tvpolicy/host/HostProbe.h>
+#include <tvpolicy/host/NetworkInterface.h>
 #include "base/LogLine.h"
 
 namespace {

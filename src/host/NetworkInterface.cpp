@@ -7,12 +7,12 @@
 #include <optional>
 #include <sstream>
 
-#include <tvpolicy/host/NetworkProbe.h>
 #include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/base/Utilities.h>
+#include <tvpolicy/host/NetworkProbe.h>
 
-#include "host/CurrentWifi.h"
 #include "base/LogLine.h"
+#include "host/CurrentWifi.h"
 
 namespace com::torvane::api {
 
@@ -60,7 +60,8 @@ bool linkUp(const NetworkProbe& network, const std::string& name)
 
 // Steps 2 to 5 for one entry: the hardware, when the entry is a candidate and the interface
 // qualifies. A failed lookup is retried a bounded number of times.
-std::optional<NetworkProbe::Hardware> admittedHardware(const NetworkProbe& network, const NetworkProbe::AddressEntry& entry)
+std::optional<NetworkProbe::Hardware> admittedHardware(const NetworkProbe& network,
+                                                       const NetworkProbe::AddressEntry& entry)
 {
     if (entry.family != NetworkProbe::Family::IPv4 && !entry.hardwareCandidate) {
         return std::nullopt;

@@ -4,8 +4,8 @@
 #include <iostream>
 #include <memory>
 
-#include <tvpolicy/base/Timestamp.h>
 #include <tvpolicy/base/Signal.h>
+#include <tvpolicy/base/Timestamp.h>
 
 namespace tvpolicy {
 

@@ -86,11 +86,12 @@ void DescribedPosture::addMount(const std::string& mountPoint, bool encrypted)
     blockDevices[disk] = BlockDevice{};
     if (encrypted) {
         device = "254:" + std::to_string(index);
-        blockDevices[device] = BlockDevice{"CRYPT-LUKS2-described" + std::to_string(index) + "-crypt" + std::to_string(index),
-                                           {disk}};
+        blockDevices[device] =
+            BlockDevice{"CRYPT-LUKS2-described" + std::to_string(index) + "-crypt" + std::to_string(index), {disk}};
     }
     mounts += std::to_string(19 + index) + " 1 " + device + " / " + escapedMountPoint(mountPoint) +
-              " rw,relatime shared:" + std::to_string(index) + " - ext4 /dev/described" + std::to_string(index) + " rw\n";
+              " rw,relatime shared:" + std::to_string(index) + " - ext4 /dev/described" + std::to_string(index) +
+              " rw\n";
 }
 
 PostureProbe::Fact<PostureProbe::UnitState> DescribedPosture::unitState(const std::string& unit) const

@@ -6,8 +6,8 @@
 
 #include <tvpolicy/base/Timestamp.h>
 
-#include "host/NotifierSlots.h"
 #include "base/StopLatch.h"
+#include "host/NotifierSlots.h"
 
 namespace tvi {
 

@@ -27,7 +27,8 @@ inline std::unordered_map<std::string, GroupMembers> secondariesByGroup(const st
 }
 
 /// The members of `group`, or none.
-inline const GroupMembers& membersOf(const std::unordered_map<std::string, GroupMembers>& groups, const std::string& group)
+inline const GroupMembers& membersOf(const std::unordered_map<std::string, GroupMembers>& groups,
+                                     const std::string& group)
 {
     static const GroupMembers none;
     auto found = groups.find(group);

@@ -85,7 +85,10 @@ void traceTerm(Task& term, bool passed) { debug(term.getType() + (passed ? " Pas
 Kind kindOf(const Task& task)
 {
     const std::type_info& type = typeid(task);
-    return type == typeid(andTask) ? Kind::And : type == typeid(orTask) ? Kind::Or : type == typeid(notTask) ? Kind::Not : Kind::Other;
+    return type == typeid(andTask)   ? Kind::And
+           : type == typeid(orTask)  ? Kind::Or
+           : type == typeid(notTask) ? Kind::Not
+                                     : Kind::Other;
 }
 
 }  // namespace

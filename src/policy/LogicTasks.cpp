@@ -16,8 +16,8 @@
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 
-#include "policy/LogicEvaluation.h"
 #include "base/LogLine.h"
+#include "policy/LogicEvaluation.h"
 
 bool andTask::dummy = TaskFactory::addTask("andTask", &andTask::create);
 bool falseTask::dummy = TaskFactory::addTask("falseTask", &falseTask::create);
@@ -28,12 +28,11 @@ bool ValidateTask::dummy = TaskFactory::addTask("ValidateTask", &ValidateTask::c
 
 // What each logic kind reads from its element; the combinators without attributes read none.
 namespace {
-const bool described = tvpolicy::TaskCatalog::describe("andTask", {"skip", "skipEmpty"}) &&
-                       tvpolicy::TaskCatalog::describe("falseTask", {}) &&
-                       tvpolicy::TaskCatalog::describe("notTask", {}) &&
-                       tvpolicy::TaskCatalog::describe("orTask", {}) &&
-                       tvpolicy::TaskCatalog::describe("trueTask", {}) &&
-                       tvpolicy::TaskCatalog::describe("ValidateTask", {"status"});
+const bool described =
+    tvpolicy::TaskCatalog::describe("andTask", {"skip", "skipEmpty"}) &&
+    tvpolicy::TaskCatalog::describe("falseTask", {}) && tvpolicy::TaskCatalog::describe("notTask", {}) &&
+    tvpolicy::TaskCatalog::describe("orTask", {}) && tvpolicy::TaskCatalog::describe("trueTask", {}) &&
+    tvpolicy::TaskCatalog::describe("ValidateTask", {"status"});
 }  // namespace
 
 // Deletes composite trees without recursion: a tree nested as deep as a document allows must

@@ -11,9 +11,9 @@ using xercesc::XMLUni;
 namespace {
 
 struct Layout {
-    std::size_t width = 1;          // bytes per code unit
+    std::size_t width = 1;  // bytes per code unit
     bool bigEndian = false;
-    std::size_t mark = 0;           // bytes of the byte-order mark
+    std::size_t mark = 0;             // bytes of the byte-order mark
     const XMLCh* unmarked = nullptr;  // the encoding's name, for a wide text without a mark
 };
 

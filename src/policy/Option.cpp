@@ -101,7 +101,8 @@ bool Option::test()
 }
 
 void Option::testGroup(const std::string& key, Section& primarySection,
-                       const std::vector<std::pair<std::string, Section*>>& secondaries, int& warnings, bool& allSkipped)
+                       const std::vector<std::pair<std::string, Section*>>& secondaries, int& warnings,
+                       bool& allSkipped)
 {
     const std::string groupName = primarySection.getGroup();
     const std::string where = " section '" + primarySection.getName() + "' for group '" + groupName + "'";
@@ -127,8 +128,8 @@ void Option::testGroup(const std::string& key, Section& primarySection,
         }
         announce(announcedName(otherKey), secondary);
         countProgress();
-        trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() + "' for group '" +
-              groupName + "'");
+        trace("--Primary Passed and Section Not Skipped... Starting section '" + secondary->getName() +
+              "' for group '" + groupName + "'");
         bool counts = secondary->test() || secondary->getStatus() == 4;
         groupPassed[groupName] = groupPassed[groupName] && counts;
         if (secondary->getStatus() == 5) {

@@ -32,7 +32,8 @@ SourceLocation ParseGuard::location() const
     if (locator_ == nullptr) {
         return {};
     }
-    return {static_cast<std::uint64_t>(locator_->getLineNumber()), static_cast<std::uint64_t>(locator_->getColumnNumber())};
+    return {static_cast<std::uint64_t>(locator_->getLineNumber()),
+            static_cast<std::uint64_t>(locator_->getColumnNumber())};
 }
 
 SAXParseException ParseGuard::refusalError() const

@@ -14,6 +14,7 @@
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Section.h>
 
+#include "base/LogLine.h"
 #include "policy/MarkupTrim.h"
 #include "policy/ParseGuard.h"
 #include "policy/ParseMessages.h"
@@ -21,17 +22,13 @@
 #include "xml/DocumentLimits.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
-#include "base/LogLine.h"
 
 using namespace xercesc;
 using tvpolicy::xml::utf8;
 
 namespace {
 
-bool allWhiteSpace(const std::string& text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string::npos;
-}
+bool allWhiteSpace(const std::string& text) { return text.find_first_not_of(" \t\r\n") == std::string::npos; }
 
 std::string sectionKey(std::uint32_t count, const std::string& name)
 {
@@ -81,7 +78,8 @@ Policy* Policy::parseFromString(std::string xml, bool showErrors)
     tvpolicy::policy::ParseGuard guard;
     policy->guard = &guard;
     try {
-        tvpolicy::policy::parseProgressively(*reader, source, [&] { return policy->fatalParseError || guard.refused(); });
+        tvpolicy::policy::parseProgressively(*reader, source,
+                                             [&] { return policy->fatalParseError || guard.refused(); });
     } catch (const XMLException& failure) {
         policy->fatalError(SAXParseException(failure.getMessage(), nullptr, nullptr, 0, 0));
     }

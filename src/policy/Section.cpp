@@ -11,21 +11,21 @@
 #include <xercesc/framework/URLInputSource.hpp>
 #include <xercesc/util/XMLException.hpp>
 
-#include <tvpolicy/host/Machine.h>
 #include <tvpolicy/base/Timestamp.h>
+#include <tvpolicy/host/Machine.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Task.h>
 #include <tvpolicy/policy/TaskCatalog.h>
 #include <tvpolicy/policy/TaskFactory.h>
 #include <tvpolicy/policy/TaskResponse.h>
 
+#include "base/LogLine.h"
 #include "policy/ParseGuard.h"
 #include "policy/ParseMessages.h"
 #include "policy/ProgressiveParse.h"
 #include "xml/LimitedFetch.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
-#include "base/LogLine.h"
 
 using namespace xercesc;
 using tvpolicy::policy::ParseGuard;
@@ -115,8 +115,9 @@ void Section::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qn
     source.element = element;
     source.location = where;
     for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
-        Task::Attribute attribute{tvpolicy::xml::elementName(attributes.getLocalName(i), attributes.getQName(i), fromQName),
-                                  tvpolicy::xml::utf8(attributes.getValue(i))};
+        Task::Attribute attribute{
+            tvpolicy::xml::elementName(attributes.getLocalName(i), attributes.getQName(i), fromQName),
+            tvpolicy::xml::utf8(attributes.getValue(i))};
         task->setAttribute(&attribute);
         if (!tvpolicy::TaskCatalog::reads(kind, attribute.first)) {
             source.unknownAttributes.push_back(attribute.first);
@@ -216,7 +217,8 @@ void Section::fatalError(const SAXParseException& exception)
     // A section that cannot be read stops the agent.
     std::printf("fatal error, line %d\n", static_cast<int>(exception.getLineNumber()));
     std::printf("column: %d\n", static_cast<int>(exception.getColumnNumber()));
-    Machine::showMessage("", "Error reading section.  Please try again later.  If the problem persists, notify the helpdesk.", "");
+    Machine::showMessage(
+        "", "Error reading section.  Please try again later.  If the problem persists, notify the helpdesk.", "");
     std::cout.flush();
     std::exit(1);
 }
@@ -305,7 +307,8 @@ void Section::parse(SAX2XMLReader* reader)
         URLInputSource source(tvpolicy::xml::Utf16(url).get());
         tvpolicy::policy::parseProgressively(*reader, source, [&] { return bounds.refused(); });
     } catch (const XMLException& failure) {
-        tvi::LogLine(std::cout) << "Section: cannot read '" << url << "': " << tvpolicy::xml::utf8(failure.getMessage());
+        tvi::LogLine(std::cout) << "Section: cannot read '" << url
+                                << "': " << tvpolicy::xml::utf8(failure.getMessage());
         // The reader's network error does not say why the fetch failed; the fetch does.
         std::string cause = tvpolicy::xml::takeLastFetchFailure();
         fatalError(cause.empty() ? SAXParseException(failure.getMessage(), nullptr, nullptr, 0, 0) : failureOf(cause));

@@ -28,8 +28,8 @@ struct LimitExceeded {
 class BoundedDomParser : public XercesDOMParser {
 public:
     void startElement(const XMLElementDecl& decl, const unsigned int urlId, const XMLCh* const prefix,
-                      const RefVectorOf<XMLAttr>& attributes, const XMLSize_t attributeCount,
-                      const bool isEmpty, const bool isRoot) override
+                      const RefVectorOf<XMLAttr>& attributes, const XMLSize_t attributeCount, const bool isEmpty,
+                      const bool isRoot) override
     {
         if (attributeCount > maxAttributesPerElement) {
             abandon("Element carries too many attributes");
@@ -65,8 +65,7 @@ private:
     unsigned depth_ = 0;
 };
 
-void report(ErrorHandler& errors, const char* message, const char* systemId, XMLFileLoc line,
-            XMLFileLoc column)
+void report(ErrorHandler& errors, const char* message, const char* systemId, XMLFileLoc line, XMLFileLoc column)
 {
     WideText text(message);
     WideText id(systemId);
@@ -92,8 +91,7 @@ DocumentPtr parseDocument(const std::string& text, const DomSettings& settings, 
     parser.setErrorHandler(&errors);
     harden(parser);
 
-    MemBufInputSource input(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
-                            settings.systemId, false);
+    MemBufInputSource input(reinterpret_cast<const XMLByte*>(text.data()), text.size(), settings.systemId, false);
     try {
         parser.parse(input);
     } catch (const LimitExceeded& limit) {

@@ -28,7 +28,6 @@ struct DomSettings {
 /// errors alike); the parser stops at the first fatal error and the document holds what was read
 /// until then. A document over the limits is reported to `errors` as a fatal error and gives
 /// null, as does a parse that fails outright. Initialises the XML platform when needed.
-DocumentPtr parseDocument(const std::string& text, const DomSettings& settings,
-                          xercesc::ErrorHandler& errors);
+DocumentPtr parseDocument(const std::string& text, const DomSettings& settings, xercesc::ErrorHandler& errors);
 
 }  // namespace tvpolicy::xml

@@ -21,10 +21,8 @@ bool isContainer(const DOMNode* node)
     case DOMNode::ENTITY_REFERENCE_NODE:
     case DOMNode::DOCUMENT_FRAGMENT_NODE:
     case DOMNode::ENTITY_NODE:
-    case DOMNode::ATTRIBUTE_NODE:
-        return true;
-    default:
-        return false;
+    case DOMNode::ATTRIBUTE_NODE: return true;
+    default: return false;
     }
 }
 
@@ -72,10 +70,7 @@ const XMLCh* localNameOf(const DOMNode* node)
     return local != nullptr ? local : node->getNodeName();
 }
 
-bool sameName(const XMLCh* name, const XMLCh* expected)
-{
-    return name != nullptr && XMLString::equals(name, expected);
-}
+bool sameName(const XMLCh* name, const XMLCh* expected) { return name != nullptr && XMLString::equals(name, expected); }
 
 std::string nativeText(const XMLCh* text)
 {

@@ -37,9 +37,9 @@ bool equal(const XMLCh* a, const XMLCh* b)
 
 }  // namespace
 
-ElementIndex::ElementIndex(const DOMDocument* doc, const XMLCh* namespaceUri,
-                           std::vector<const XMLCh*> names)
-    : names_(std::move(names)), found_(names_.size())
+ElementIndex::ElementIndex(const DOMDocument* doc, const XMLCh* namespaceUri, std::vector<const XMLCh*> names)
+    : names_(std::move(names)),
+      found_(names_.size())
 {
     if (doc == nullptr || doc->getDocumentElement() == nullptr) {
         return;

@@ -12,8 +12,7 @@ namespace tvpolicy::xml {
 /// instead of one walk per name.
 class ElementIndex {
 public:
-    ElementIndex(const xercesc::DOMDocument* doc, const XMLCh* namespaceUri,
-                 std::vector<const XMLCh*> names);
+    ElementIndex(const xercesc::DOMDocument* doc, const XMLCh* namespaceUri, std::vector<const XMLCh*> names);
 
     /// The elements named `name` (one of the names given), in document order.
     const std::vector<xercesc::DOMElement*>& all(const XMLCh* name) const;

@@ -26,10 +26,7 @@ thread_local std::string lastFailure;
 
 }  // namespace
 
-std::string takeLastFetchFailure()
-{
-    return std::exchange(lastFailure, std::string());
-}
+std::string takeLastFetchFailure() { return std::exchange(lastFailure, std::string()); }
 
 FetchLimits& documentFetchLimits()
 {
@@ -76,8 +73,7 @@ FetchResult fetchDocument(const std::string& url, const FetchLimits& limits)
         const char* location = nullptr;
         curl_easy_getinfo(handle, CURLINFO_REDIRECT_URL, &location);
         result.error = "the server answered with status " + std::to_string(result.status) + ", a redirect" +
-                       (location != nullptr ? std::string(" to ") + location : std::string()) +
-                       " that is not followed";
+                       (location != nullptr ? std::string(" to ") + location : std::string()) + " that is not followed";
     } else if (result.status < 200 || result.status > 299) {
         result.error = "the server answered with status " + std::to_string(result.status);
     } else {

@@ -20,9 +20,9 @@ FetchLimits& documentFetchLimits();
 
 struct FetchResult {
     bool ok = false;
-    long status = 0;   // the HTTP status, 0 when no response came
-    std::string body;  // only when ok
-    std::string error; // why not, when not ok
+    long status = 0;    // the HTTP status, 0 when no response came
+    std::string body;   // only when ok
+    std::string error;  // why not, when not ok
 };
 
 /// GETs an http or https address within `limits`. Redirects are not followed; any status

@@ -8,9 +8,9 @@
 
 #include <tvpolicy/base/Timestamp.h>
 
+#include "base/LogLine.h"
 #include "xml/LimitedFetch.h"
 #include "xml/XmlText.h"
-#include "base/LogLine.h"
 
 namespace tvpolicy::xml {
 

@@ -4,8 +4,8 @@
 
 #include <tvpolicy/base/Timestamp.h>
 
-#include "xml/DomText.h"
 #include "base/LogLine.h"
+#include "xml/DomText.h"
 
 namespace tvpolicy::xml {
 

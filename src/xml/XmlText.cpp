@@ -38,7 +38,8 @@ bool equalsAscii(const XMLCh* text, const char* ascii)
 }
 
 Utf16::Utf16(const std::string& text)
-    : text_(std::make_unique<xercesc::TranscodeFromStr>(reinterpret_cast<const XMLByte*>(text.data()), text.size(), "UTF-8"))
+    : text_(std::make_unique<xercesc::TranscodeFromStr>(reinterpret_cast<const XMLByte*>(text.data()), text.size(),
+                                                        "UTF-8"))
 {
 }
 

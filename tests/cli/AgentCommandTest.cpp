@@ -1,9 +1,9 @@
 // tvpolicy agent against the reference server as a real HTTP(S) peer.
+#include <sys/stat.h>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <string>
-#include <sys/stat.h>
 #include <thread>
 #include <vector>
 
@@ -18,12 +18,12 @@
 #include "support/RunCli.h"
 #include "support/TempDir.h"
 
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using testing_support::ChildProcess;
 using testing_support::ReferenceServer;
 using testing_support::runCli;
 using testing_support::TempDir;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using Json = nlohmann::json;
 
 namespace {
@@ -33,7 +33,7 @@ const std::string examples = std::string(TVPOLICY_SOURCE_DIR) + "/examples/";
 std::vector<std::string> onceAgainst(const std::string& url, const TempDir& state,
                                      const std::string& config = "/dev/null")
 {
-    return {"agent", "--once", "--allow-http", "--server", url, "--state-dir", (state.path() / "state").string(),
+    return {"agent",    "--once", "--allow-http", "--server", url, "--state-dir", (state.path() / "state").string(),
             "--config", config};
 }
 
@@ -101,8 +101,8 @@ TEST_P(AgentVerdict, TheServerSeesTheProtocolInOrder)
     EXPECT_EQ(document["passed"], c.passed);
     EXPECT_EQ(document["agent"]["uid"], "agent-uid-1");
 
-    auto status = runCli({"agent", "--status", "--state-dir", (state.path() / "state").string(), "--config",
-                          "/dev/null"});
+    auto status =
+        runCli({"agent", "--status", "--state-dir", (state.path() / "state").string(), "--config", "/dev/null"});
     EXPECT_EQ(status.exitCode, 0);
     EXPECT_THAT(status.out, HasSubstr(c.passed ? "passed at " : "failed at "));
 }
@@ -113,8 +113,8 @@ INSTANTIATE_TEST_SUITE_P(Examples, AgentVerdict,
 
 TEST(AgentLogin, SendsTheFieldsInOrderAndKeepsTheCookie)
 {
-    ReferenceServer server({"--policy", examples + "compliant.xml", "--login", "username=alice", "--login",
-                            "password=s3cret&more"});
+    ReferenceServer server(
+        {"--policy", examples + "compliant.xml", "--login", "username=alice", "--login", "password=s3cret&more"});
     ASSERT_TRUE(server.started());
     TempDir dir;
     auto config = privateFile(dir, "agent.toml", "[login]\npassword = \"s3cret&more\"\nusername = \"alice\"\n");
@@ -215,9 +215,12 @@ TEST_P(AgentScripts, OnlyListedCommandsRun)
     TempDir dir;
     auto marker = dir.path() / "ran";
     std::string command = "touch " + marker.string() + "; echo 7";
-    auto policy = dir.write("policy.xml", "<policy name='p'><section name='Script' primary='true'>"
-                                          "<VersionFromScript script='" + command + "' required='5'/>"
-                                          "</section></policy>");
+    auto policy = dir.write("policy.xml",
+                            "<policy name='p'><section name='Script' primary='true'>"
+                            "<VersionFromScript script='" +
+                                command +
+                                "' required='5'/>"
+                                "</section></policy>");
     ReferenceServer server({"--policy", policy.string()});
     ASSERT_TRUE(server.started());
     std::string setting = GetParam().scripts == "list" ? "[\"" + command + "\"]" : GetParam().scripts;
@@ -256,9 +259,9 @@ INSTANTIATE_TEST_SUITE_P(
     Answers, AgentBrokenServer,
     ::testing::Values(BrokenCase{"ConfigAnswers500", {"--fail", "/agent/config=500"}},
                       BrokenCase{"StatusError", {"--fail", "/agent/status=502"}},
-                      BrokenCase{"NotAPolicy", {"--policy", examples + "agent-config.xml"}},
-                      BrokenCase{"NoPolicy", {}},
-                      BrokenCase{"EndlessPolicy", {"--policy", examples + "compliant.xml", "--endless", "/agent/scan"}}),
+                      BrokenCase{"NotAPolicy", {"--policy", examples + "agent-config.xml"}}, BrokenCase{"NoPolicy", {}},
+                      BrokenCase{"EndlessPolicy",
+                                 {"--policy", examples + "compliant.xml", "--endless", "/agent/scan"}}),
     [](const auto& testCase) { return testCase.param.name; });
 
 TEST(AgentBrokenServer, NoServerListeningIsUnreached)
@@ -284,8 +287,15 @@ TEST_P(AgentStop, TermStopsWithinASecond)
     ReferenceServer server(GetParam().serverArguments);
     ASSERT_TRUE(server.started());
     TempDir state;
-    std::vector<std::string> argv = {TVPOLICY_CLI, "agent", "--allow-http", "--server", server.url(), "--state-dir",
-                                     (state.path() / "state").string(), "--config", "/dev/null"};
+    std::vector<std::string> argv = {TVPOLICY_CLI,
+                                     "agent",
+                                     "--allow-http",
+                                     "--server",
+                                     server.url(),
+                                     "--state-dir",
+                                     (state.path() / "state").string(),
+                                     "--config",
+                                     "/dev/null"};
     ChildProcess agent(argv);
     ASSERT_TRUE(server.waitForRequests(GetParam().lastRequest, 1, std::chrono::seconds(20)));
     std::this_thread::sleep_for(GetParam().after);
@@ -298,18 +308,16 @@ TEST_P(AgentStop, TermStopsWithinASecond)
 
 INSTANTIATE_TEST_SUITE_P(
     Moments, AgentStop,
-    ::testing::Values(StopCase{"StalledPolicyRequest",
-                               {"--policy", examples + "compliant.xml", "--stall", "/agent/scan"},
-                               "/agent/scan",
-                               std::chrono::milliseconds(0)},
-                      StopCase{"StalledResultsPost",
-                               {"--policy", examples + "compliant.xml", "--stall", "/agent/report/results"},
-                               "/agent/report/results",
-                               std::chrono::milliseconds(0)},
-                      StopCase{"BackoffWait",
-                               {"--fail", "/agent/config=500"},
-                               "/agent/config",
-                               std::chrono::milliseconds(500)}),
+    ::testing::Values(
+        StopCase{"StalledPolicyRequest",
+                 {"--policy", examples + "compliant.xml", "--stall", "/agent/scan"},
+                 "/agent/scan",
+                 std::chrono::milliseconds(0)},
+        StopCase{"StalledResultsPost",
+                 {"--policy", examples + "compliant.xml", "--stall", "/agent/report/results"},
+                 "/agent/report/results",
+                 std::chrono::milliseconds(0)},
+        StopCase{"BackoffWait", {"--fail", "/agent/config=500"}, "/agent/config", std::chrono::milliseconds(500)}),
     [](const auto& testCase) { return testCase.param.name; });
 
 struct CheckStopCase {
@@ -388,7 +396,8 @@ TEST(AgentTls, TrustsTheGivenAuthorityOnly)
     TempDir pki;
     const std::string d = pki.path().string();
     std::string script =
-        "set -e; cd " + d + ";"
+        "set -e; cd " + d +
+        ";"
         "openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj /CN=test-ca -keyout ca.key -out ca.pem 2>/dev/null;"
         "openssl req -newkey rsa:2048 -nodes -subj /CN=127.0.0.1 -keyout server.key -out server.csr 2>/dev/null;"
         "printf 'subjectAltName=IP:127.0.0.1\\n' > ext;"
@@ -398,17 +407,17 @@ TEST(AgentTls, TrustsTheGivenAuthorityOnly)
         "-keyout self.key -out self.pem 2>/dev/null";
     ASSERT_EQ(testing_support::runProgram({"sh", "-c", script}).exitCode, 0);
 
-    ReferenceServer signedServer({"--policy", examples + "compliant.xml", "--cert", d + "/server.pem", "--key",
-                                  d + "/server.key"});
-    ReferenceServer selfSigned({"--policy", examples + "compliant.xml", "--cert", d + "/self.pem", "--key",
-                                d + "/self.key"});
+    ReferenceServer signedServer(
+        {"--policy", examples + "compliant.xml", "--cert", d + "/server.pem", "--key", d + "/server.key"});
+    ReferenceServer selfSigned(
+        {"--policy", examples + "compliant.xml", "--cert", d + "/self.pem", "--key", d + "/self.key"});
     ASSERT_TRUE(signedServer.started() && selfSigned.started());
     TempDir state;
-    auto accepted = runCli({"agent", "--once", "--server", signedServer.url(), "--cacert", d + "/ca.pem",
-                            "--state-dir", (state.path() / "s").string(), "--config", "/dev/null"});
+    auto accepted = runCli({"agent", "--once", "--server", signedServer.url(), "--cacert", d + "/ca.pem", "--state-dir",
+                            (state.path() / "s").string(), "--config", "/dev/null"});
     EXPECT_EQ(accepted.exitCode, 0) << accepted.err;
-    auto refused = runCli({"agent", "--once", "--server", selfSigned.url(), "--cacert", d + "/ca.pem",
-                           "--state-dir", (state.path() / "s").string(), "--config", "/dev/null"});
+    auto refused = runCli({"agent", "--once", "--server", selfSigned.url(), "--cacert", d + "/ca.pem", "--state-dir",
+                           (state.path() / "s").string(), "--config", "/dev/null"});
     EXPECT_EQ(refused.exitCode, 3) << refused.err;
     EXPECT_TRUE(selfSigned.requests().empty());
 }
@@ -425,8 +434,7 @@ TEST(AgentNotifiers, AnAddressChangeStartsACycle)
     ASSERT_TRUE(server.started());
     TempDir state;
     ChildProcess agent({"ip", "netns", "exec", ns.name(), TVPOLICY_CLI, "agent", "--allow-http", "--server",
-                        server.url(), "--state-dir", (state.path() / "state").string(), "--config",
-                        "/dev/null"});
+                        server.url(), "--state-dir", (state.path() / "state").string(), "--config", "/dev/null"});
     ASSERT_TRUE(server.waitForRequests("/agent/report/success", 1, std::chrono::seconds(20)));
     std::this_thread::sleep_for(std::chrono::milliseconds(2500));  // past the first cycle's burst window
     ASSERT_TRUE(ns.exec("ip addr add 10.77.0.1/32 dev va"));
@@ -445,7 +453,8 @@ TEST(AgentService, UnitFileVerifies)
         GTEST_SKIP() << "systemd-analyze cannot run here";
     }
     TempDir dir;
-    std::string unit = testing_support::readFile(std::string(TVPOLICY_SOURCE_DIR) + "/dist/systemd/tvpolicy-agent.service");
+    std::string unit =
+        testing_support::readFile(std::string(TVPOLICY_SOURCE_DIR) + "/dist/systemd/tvpolicy-agent.service");
     ASSERT_NE(unit.find("/usr/bin/tvpolicy "), std::string::npos);
     unit.replace(unit.find("/usr/bin/tvpolicy "), 17, TVPOLICY_CLI);
     auto file = dir.write("tvpolicy-agent.service", unit);
@@ -489,7 +498,7 @@ namespace {
 std::vector<std::string> loopAgainst(const std::string& url, const TempDir& dir, const std::string& config)
 {
     return {TVPOLICY_CLI, "agent", "--allow-http", "--server", url, "--state-dir", (dir.path() / "state").string(),
-            "--config", config};
+            "--config",   config};
 }
 
 TEST(AgentLoop, RunsTheServersMonitorsAndPostsTheirStatus)

@@ -10,7 +10,6 @@
 #include "support/RunCli.h"
 #include "support/TempDir.h"
 
-
 using testing_support::runCli;
 
 namespace {
@@ -54,32 +53,32 @@ TEST_P(CliUsageTest, AnswersWithStatusAndText)
     EXPECT_NE(result.err.find(c.inErr), std::string::npos) << result.err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Usage, CliUsageTest, testing::Values(
-    UsageCase{{"--help"}, 0, "tasks", ""},
-    UsageCase{{"--version"}, 0, "tvpolicy ", ""},
-    UsageCase{{}, 2, "", "subcommand"},
-    UsageCase{{"nosuchcommand"}, 2, "", "nosuchcommand"},
-    UsageCase{{"lnit", "x.xml"}, 2, "", "unknown command or argument 'lnit' (did you mean 'lint'?)"},
-    UsageCase{{"--log", "/nonexistent-dir/x.log", "tasks"}, 2, "", "cannot open log file"},
-    UsageCase{{"tasks", "-v"}, 0, "ProcessExists", ""},  // global options after the subcommand
-    UsageCase{{"compare", "1", "gte", "1", "--log", "/nonexistent-dir/x.log"}, 2, "", "cannot open log file"},
-    UsageCase{{"-v", "--log", "/tmp/x.log", "tasks"}, 2, "", "excludes"},
-    UsageCase{{"help", "run"}, 0, "Usage: tvpolicy run [OPTIONS] SOURCE\n", ""},
-    UsageCase{{"run", "--help"}, 0, "Usage: tvpolicy run [OPTIONS] SOURCE\n", ""},
-    UsageCase{{"run", "x.xml", "--jsn"}, 2, "", "unknown command or argument '--jsn' (did you mean '--json'?)"},
-    UsageCase{{"monitor", "x.xml", "--onc"}, 2, "", "(did you mean '--once'?)"},
-    UsageCase{{"tasks", "--verbos"}, 2, "", "(did you mean '--verbose'?)"},
-    UsageCase{{"help"}, 0, "Subcommands:", ""},
-    UsageCase{{"help", "nosuch"}, 2, "", "no subcommand 'nosuch'"},
-    UsageCase{{"monitor", "x.xml", "--count", "0"}, 2, "", "--count: must be at least 1"},
-    UsageCase{{"compare", "--help"}, 0, "Default: none, as in a policy's version check", ""}));
+INSTANTIATE_TEST_SUITE_P(
+    Usage, CliUsageTest,
+    testing::Values(
+        UsageCase{{"--help"}, 0, "tasks", ""}, UsageCase{{"--version"}, 0, "tvpolicy ", ""},
+        UsageCase{{}, 2, "", "subcommand"}, UsageCase{{"nosuchcommand"}, 2, "", "nosuchcommand"},
+        UsageCase{{"lnit", "x.xml"}, 2, "", "unknown command or argument 'lnit' (did you mean 'lint'?)"},
+        UsageCase{{"--log", "/nonexistent-dir/x.log", "tasks"}, 2, "", "cannot open log file"},
+        UsageCase{{"tasks", "-v"}, 0, "ProcessExists", ""},  // global options after the subcommand
+        UsageCase{{"compare", "1", "gte", "1", "--log", "/nonexistent-dir/x.log"}, 2, "", "cannot open log file"},
+        UsageCase{{"-v", "--log", "/tmp/x.log", "tasks"}, 2, "", "excludes"},
+        UsageCase{{"help", "run"}, 0, "Usage: tvpolicy run [OPTIONS] SOURCE\n", ""},
+        UsageCase{{"run", "--help"}, 0, "Usage: tvpolicy run [OPTIONS] SOURCE\n", ""},
+        UsageCase{{"run", "x.xml", "--jsn"}, 2, "", "unknown command or argument '--jsn' (did you mean '--json'?)"},
+        UsageCase{{"monitor", "x.xml", "--onc"}, 2, "", "(did you mean '--once'?)"},
+        UsageCase{{"tasks", "--verbos"}, 2, "", "(did you mean '--verbose'?)"},
+        UsageCase{{"help"}, 0, "Subcommands:", ""}, UsageCase{{"help", "nosuch"}, 2, "", "no subcommand 'nosuch'"},
+        UsageCase{{"monitor", "x.xml", "--count", "0"}, 2, "", "--count: must be at least 1"},
+        UsageCase{{"compare", "--help"}, 0, "Default: none, as in a policy's version check", ""}));
 
 // A report that cannot be written is an error of its own (2) that names the file and why,
 // whichever report it is.
 TEST(Cli, UnwritableReportFilesExitTwoWithTheReason)
 {
     testing_support::TempDir dir;
-    auto policy = dir.write("p.xml", "<policy name=\"p\"><section name=\"s\" primary=\"true\"><true/></section></policy>");
+    auto policy =
+        dir.write("p.xml", "<policy name=\"p\"><section name=\"s\" primary=\"true\"><true/></section></policy>");
     for (const char* option : {"--report", "--junit", "--output"}) {
         auto result = runCli({"run", policy.string(), "-q", option, "/nonexistent-dir/r.out"});
         EXPECT_EQ(result.exitCode, 2) << option << ": " << result.err;
@@ -119,8 +118,10 @@ TEST(Cli, ReportsToListsOnlyDeclaredAddresses)
          "Reports to:\n  success: http://other.test/ok\n  init: http://nac.example.test/i\n"},
     };
     for (const Case& c : cases) {
-        auto policy = dir.write("p.xml", "<policy name=\"p\" base=\"http://nac.example.test/\"><section name=\"s\" "
-                                         "primary=\"true\"><true/></section>" + c.declared + "</policy>");
+        auto policy = dir.write("p.xml",
+                                "<policy name=\"p\" base=\"http://nac.example.test/\"><section name=\"s\" "
+                                "primary=\"true\"><true/></section>" +
+                                    c.declared + "</policy>");
         auto result = runCli({"run", policy.string(), "-q"});
         std::size_t block = result.out.find("Reports to:");
         std::size_t end = result.out.find("\n\n", block);

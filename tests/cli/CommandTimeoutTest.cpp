@@ -53,16 +53,21 @@ TEST_P(CommandTimeoutTest, EndsTheCommandsGroupAndSaysSo)
     }
 }
 
-const std::string timedOut = "the command did not finish within 0.5 s (--command-timeout); it and its process group "
-                             "were ended";
+const std::string timedOut =
+    "the command did not finish within 0.5 s (--command-timeout); it and its process group "
+    "were ended";
 
-INSTANTIATE_TEST_SUITE_P(Scripts, CommandTimeoutTest, testing::Values(
-    TimeoutCase{"Finishes", "echo 5", {}, 0, ""},
-    TimeoutCase{"Sleeps", "sleep 31.4151; echo 5", {"sleep 31.4151"}, 1, timedOut},
-    TimeoutCase{"StartsBackgroundChildren", "sleep 31.4152 &amp; sleep 31.4153; echo 5",
-                {"sleep 31.4152", "sleep 31.4153"}, 1, timedOut},
-    TimeoutCase{"IgnoresTerm", "trap '' TERM; sleep 31.4154; echo 5", {"sleep 31.4154"}, 1, timedOut},
-    TimeoutCase{"ReadsStandardInput", "read line; echo 5", {}, 0, ""}),
+INSTANTIATE_TEST_SUITE_P(
+    Scripts, CommandTimeoutTest,
+    testing::Values(TimeoutCase{"Finishes", "echo 5", {}, 0, ""},
+                    TimeoutCase{"Sleeps", "sleep 31.4151; echo 5", {"sleep 31.4151"}, 1, timedOut},
+                    TimeoutCase{"StartsBackgroundChildren",
+                                "sleep 31.4152 &amp; sleep 31.4153; echo 5",
+                                {"sleep 31.4152", "sleep 31.4153"},
+                                1,
+                                timedOut},
+                    TimeoutCase{"IgnoresTerm", "trap '' TERM; sleep 31.4154; echo 5", {"sleep 31.4154"}, 1, timedOut},
+                    TimeoutCase{"ReadsStandardInput", "read line; echo 5", {}, 0, ""}),
     [](const testing::TestParamInfo<TimeoutCase>& testCase) { return testCase.param.title; });
 
 class CommandSignalTest : public testing::TestWithParam<const char*> {};
@@ -76,10 +81,15 @@ TEST_P(CommandSignalTest, LeavesNoShellBehind)
     auto policy = dir.write("p.xml", policyWith(marker + "; echo 5")).string();
     std::string script =
         "\"$0\" run \"$1\" -q >/dev/null 2>&1 & pid=$!\n"
-        "i=0; while ! pgrep -f '[" + marker.substr(0, 1) + "]" + marker.substr(1) + "' >/dev/null && [ $i -lt 200 ]; do sleep 0.05; i=$((i+1)); done\n"
-        "kill -" + GetParam() + " $pid\n"
+        "i=0; while ! pgrep -f '[" +
+        marker.substr(0, 1) + "]" + marker.substr(1) +
+        "' >/dev/null && [ $i -lt 200 ]; do sleep 0.05; i=$((i+1)); done\n"
+        "kill -" +
+        GetParam() +
+        " $pid\n"
         "wait $pid; echo \"exit=$?\"\n"
-        "sleep 0.2; pgrep -f '[" + marker.substr(0, 1) + "]" + marker.substr(1) + "' >/dev/null && echo left-behind; true\n";
+        "sleep 0.2; pgrep -f '[" +
+        marker.substr(0, 1) + "]" + marker.substr(1) + "' >/dev/null && echo left-behind; true\n";
     auto result = runProgram({"sh", "-c", script, TVPOLICY_CLI, policy});
     int signal = std::string(GetParam()) == "TERM" ? 15 : 2;
     EXPECT_EQ(result.out, "exit=" + std::to_string(128 + signal) + "\n") << result.err;

@@ -31,11 +31,13 @@ TEST_P(DescribedHostExampleTest, GivesTheDescribedHostsVerdict)
     EXPECT_NE(result.out.find(GetParam().verdict), std::string::npos) << result.out;
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, DescribedHostExampleTest, testing::Values(
-    HostCase{"os-and-processes.xml", "debian-12.json", 0, "PASS (4 passed, 0 failed, 0 warning, 0 skipped of 4 sections)"},
-    HostCase{"os-and-processes.xml", "mac-10.4.11.json", 1, "FAIL (0 passed, 4 failed, 0 warning, 0 skipped of 4 sections)"},
-    HostCase{"compliant.xml", "debian-12.json", 0, "PASS (3 passed"},
-    HostCase{"compliant.xml", "mac-10.4.11.json", 1, "FAIL (1 passed, 2 failed"}));
+INSTANTIATE_TEST_SUITE_P(Examples, DescribedHostExampleTest,
+                         testing::Values(HostCase{"os-and-processes.xml", "debian-12.json", 0,
+                                                  "PASS (4 passed, 0 failed, 0 warning, 0 skipped of 4 sections)"},
+                                         HostCase{"os-and-processes.xml", "mac-10.4.11.json", 1,
+                                                  "FAIL (0 passed, 4 failed, 0 warning, 0 skipped of 4 sections)"},
+                                         HostCase{"compliant.xml", "debian-12.json", 0, "PASS (3 passed"},
+                                         HostCase{"compliant.xml", "mac-10.4.11.json", 1, "FAIL (1 passed, 2 failed"}));
 
 // Scripts are answered from the description and file searches stay inside its root: the
 // command below would leave a mark if it ran, and the file exists only in the described root.
@@ -50,10 +52,13 @@ TEST(DescribedHost, NothingOfThisMachineIsRunOrSearched)
                            {"commands", {{script, "2.5\n"}}},
                            {"root", "root"}};
     auto hostFile = dir.write("host.json", host.dump());
-    auto policy = dir.write("p.xml", "<policy name=\"p\"><section name=\"s\" primary=\"true\">"
-                                     "<VersionFromScript script=\"" + script + "\" required=\"2.5\" delim=\".\"/>"
-                                     "<File fileName=\"agent.conf\"/>"
-                                     "<File fileName=\"passwd\" startPath=\"/etc\"/></section></policy>");
+    auto policy = dir.write("p.xml",
+                            "<policy name=\"p\"><section name=\"s\" primary=\"true\">"
+                            "<VersionFromScript script=\"" +
+                                script +
+                                "\" required=\"2.5\" delim=\".\"/>"
+                                "<File fileName=\"agent.conf\"/>"
+                                "<File fileName=\"passwd\" startPath=\"/etc\"/></section></policy>");
     auto result = runCli({"run", policy.string(), "--host", hostFile.string(), "--json", "-q"});
     EXPECT_FALSE(std::filesystem::exists(mark)) << "the script ran on this machine";
     nlohmann::json report = nlohmann::json::parse(result.out);
@@ -84,15 +89,20 @@ TEST_P(MalformedHostTest, NamesTheFieldWithStatusTwo)
     EXPECT_NE(result.err.find(GetParam().inErr), std::string::npos) << result.err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Descriptions, MalformedHostTest, testing::Values(
-    MalformedCase{"NotJson", "{os:", "not a host description"},
-    MalformedCase{"NoOs", "{}", "field 'os' is missing"},
-    MalformedCase{"NameNotText", R"({"os": {"name": 12, "version": "1"}})", "field 'os.name' must be a string"},
-    MalformedCase{"UnknownField", R"({"os": {"name": "x"}, "proceses": []})", "unknown field 'proceses'"},
-    MalformedCase{"ProcessWithoutName", R"({"os": {}, "processes": [{"pid": 1}]})", "field 'processes[0].name' is missing"},
-    MalformedCase{"PidNotANumber", R"({"os": {}, "processes": [{"name": "a", "pid": "1"}]})", "'processes[0].pid' must be an integer"},
-    MalformedCase{"RootMissing", R"({"os": {}, "root": "no-such-folder"})", "field 'root': "},
-    MalformedCase{"CommandsNotAnObject", R"({"os": {}, "commands": ["ls"]})", "field 'commands' must be an object"}),
+INSTANTIATE_TEST_SUITE_P(
+    Descriptions, MalformedHostTest,
+    testing::Values(
+        MalformedCase{"NotJson", "{os:", "not a host description"},
+        MalformedCase{"NoOs", "{}", "field 'os' is missing"},
+        MalformedCase{"NameNotText", R"({"os": {"name": 12, "version": "1"}})", "field 'os.name' must be a string"},
+        MalformedCase{"UnknownField", R"({"os": {"name": "x"}, "proceses": []})", "unknown field 'proceses'"},
+        MalformedCase{"ProcessWithoutName", R"({"os": {}, "processes": [{"pid": 1}]})",
+                      "field 'processes[0].name' is missing"},
+        MalformedCase{"PidNotANumber", R"({"os": {}, "processes": [{"name": "a", "pid": "1"}]})",
+                      "'processes[0].pid' must be an integer"},
+        MalformedCase{"RootMissing", R"({"os": {}, "root": "no-such-folder"})", "field 'root': "},
+        MalformedCase{"CommandsNotAnObject", R"({"os": {}, "commands": ["ls"]})",
+                      "field 'commands' must be an object"}),
     [](const testing::TestParamInfo<MalformedCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

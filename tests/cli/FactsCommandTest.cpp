@@ -4,9 +4,9 @@
 
 #include <tvpolicy/host/Machine.h>
 
-#include <cstdlib>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <cstdlib>
 
 #include "support/RunCli.h"
 #include "support/TempDir.h"
@@ -18,9 +18,12 @@ using testing_support::runCli;
 // What the library answers in this process, which runs on the same machine.
 nlohmann::json expectedFacts()
 {
-    return {{"osVersion", Machine::getOSVersion()}, {"os", Machine::getOSString()},
-            {"hostName", Machine::getHostName()}, {"architecture", Machine::getHWDescription()},
-            {"hardware", Machine::getHardwareDesc()}, {"uuid", Machine::getSystemUUID()},
+    return {{"osVersion", Machine::getOSVersion()},
+            {"os", Machine::getOSString()},
+            {"hostName", Machine::getHostName()},
+            {"architecture", Machine::getHWDescription()},
+            {"hardware", Machine::getHardwareDesc()},
+            {"uuid", Machine::getSystemUUID()},
             {"serialNumber", Machine::getSystemSerialNumber()}};
 }
 
@@ -51,8 +54,7 @@ TEST(FactsCommand, PlainListingOneFactPerLine)
                            "Architecture:   " + facts["architecture"].get<std::string>() + "\n" +
                            "Hardware:       " + facts["hardware"].get<std::string>() + "\n" +
                            "UUID:           " + facts["uuid"].get<std::string>() + "\n" +
-                           "Serial number:  " + facts["serialNumber"].get<std::string>() + "\n" +
-                           "Processes:      ";
+                           "Serial number:  " + facts["serialNumber"].get<std::string>() + "\n" + "Processes:      ";
     EXPECT_EQ(result.out.substr(0, expected.size()), expected);
     EXPECT_GT(std::stoi(result.out.substr(expected.size())), 1);
 }
@@ -69,14 +71,17 @@ TEST(FactsCommand, CountsProcessesAnUnprivilegedUserCannotRead)
     ::chmod(dir.path().c_str(), 0755);
     std::string cli = std::string(TVPOLICY_CLI);
     std::string library = std::string(TVPOLICY_LIBRARY_DIR);
-    auto copy = testing_support::runProgram({"sh", "-c", "cp -L " + cli + " " + library + "/libtvpolicy.so.0 " +
-                                                         dir.path().string() + " && chmod -R a+rX " + dir.path().string()});
+    auto copy = testing_support::runProgram({"sh", "-c",
+                                             "cp -L " + cli + " " + library + "/libtvpolicy.so.0 " +
+                                                 dir.path().string() + " && chmod -R a+rX " + dir.path().string()});
     ASSERT_EQ(copy.exitCode, 0) << copy.err;
-    auto policy = dir.write("p.xml", "<policy name=\"p\"><section name=\"s\" primary=\"true\">"
-                                     "<ProcessExists procName=\"init\"/></section></policy>");
+    auto policy = dir.write("p.xml",
+                            "<policy name=\"p\"><section name=\"s\" primary=\"true\">"
+                            "<ProcessExists procName=\"init\"/></section></policy>");
     ::chmod(policy.c_str(), 0644);
-    std::string asNobody = "setpriv --reuid=65534 --regid=65534 --clear-groups env LD_LIBRARY_PATH=" + dir.path().string() +
-                           " " + (dir.path() / "tvpolicy").string();
+    std::string asNobody =
+        "setpriv --reuid=65534 --regid=65534 --clear-groups env LD_LIBRARY_PATH=" + dir.path().string() + " " +
+        (dir.path() / "tvpolicy").string();
     auto facts = testing_support::runProgram({"sh", "-c", asNobody + " facts --json"});
     ASSERT_EQ(facts.exitCode, 0) << facts.err;
     EXPECT_GT(nlohmann::json::parse(facts.out)["processesWithheld"].get<int>(), 0) << facts.out;

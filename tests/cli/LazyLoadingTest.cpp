@@ -46,11 +46,10 @@ TEST_P(LazyLoadingTest, CurlLoadsOnlyForATransfer)
     EXPECT_EQ(run.err.find("libcurl") != std::string::npos, GetParam().loadsCurl) << run.err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, LazyLoadingTest, testing::Values(
-    LoadCase{{"--version"}, false},
-    LoadCase{{"tasks"}, false},
-    LoadCase{{"run", "-q", TVPOLICY_SOURCE_DIR "/examples/compliant.xml"}, false},
-    LoadCase{refusedTransfer, true}));
+INSTANTIATE_TEST_SUITE_P(Commands, LazyLoadingTest,
+                         testing::Values(LoadCase{{"--version"}, false}, LoadCase{{"tasks"}, false},
+                                         LoadCase{{"run", "-q", TVPOLICY_SOURCE_DIR "/examples/compliant.xml"}, false},
+                                         LoadCase{refusedTransfer, true}));
 
 // A libcurl that cannot be loaded is a reason on stderr and a transfer that got no answer.
 TEST_F(StandaloneCli, AnUnloadableCurlIsAnErrorNotACrash)

@@ -56,61 +56,70 @@ std::string manySections(unsigned count)
     return policy + "</policy>\n";
 }
 
-INSTANTIATE_TEST_SUITE_P(Policies, LintFlawTest, testing::Values(
-    LintCase{"UnknownKind", inSection("<file fileName=\"passwd\"/>"), "unknown-element", 3, "<file>"},
-    LintCase{"UnknownAttribute", inSection("<ProcessExists procname=\"sshd\"/>"), "unknown-attribute", 3, "'procname'"},
-    LintCase{"UnknownOperation", inSection("<VersionFromScript script=\"echo 1\" required=\"1\" operation=\"ge\"/>"),
-             "check-attribute", 3, "operation 'ge' is not gt, gte, eq, lte or lt"},
-    LintCase{"DottedVersionWithoutDelim", inSection("<VersionFromScript script=\"echo 1.2\" required=\"1.10\"/>"),
-             "check-attribute", 3, "compared as the single number 1"},
-    LintCase{"WordThatIsNotANumber", inSection("<VersionFromReceipt pkg=\"A.pkg\" required=\"2.beta\" delim=\".\"/>"),
-             "check-attribute", 3, "'beta', compared as 0"},
-    LintCase{"OSVersionPartMissing", inSection("<MacOSXVersion major=\"10\" minor=\"6\"/>"), "check-attribute", 3,
-             "micro '' is empty"},
-    LintCase{"BadDate", inSection("<File fileName=\"passwd\" startPath=\"/etc\" lastModified=\"June 2024\"/>"),
-             "check-attribute", 3, "lastModified 'June 2024'"},
-    LintCase{"SecondaryWithoutPrimary",
-             "<policy name=\"p\">\n<section name=\"lonely\" group=\"g\"><true/></section>\n</policy>\n", "never-runs", 2,
-             "group 'g', which has no primary here"},
-    LintCase{"StandAloneNotPrimary", "<policy name=\"p\">\n<section name=\"idle\"><true/></section>\n</policy>\n",
-             "never-runs", 2, "neither primary nor in a group nor custom"},
-    LintCase{"OnlyOptionWithGroups",
-             "<policy name=\"p\">\n<option name=\"o\" type=\"ONLY\">\n<section name=\"a\" group=\"g\" primary=\"true\">"
-             "<true/></section>\n</option>\n</policy>\n",
-             "only-with-groups", 2, "type ONLY and has groups"},
-    LintCase{"TooManySections", manySections(1000), "too-many-sections", 0, "1000 sections"},
-    LintCase{"MisspeltTopLevelSection",
-             "<policy name=\"p\">\n<section name=\"s\" primary=\"true\"><true/></section>\n<Sectoin name=\"t\"/>\n"
-             "</policy>\n",
-             "unknown-element", 3, "<Sectoin> under <policy> is not an element the policy reader uses: it was passed "
-             "over, not evaluated (did you mean <section>?)"},
-    LintCase{"FileExecute", inSection("<File fileName=\"passwd\" startPath=\"/etc\" execute=\"true\" args=\"-v\"/>"),
-             "file-execute", 3, "execute is read but nothing is started"},
-    LintCase{"StandAloneProhibited", inSection("<true/>", "primary=\"true\" prohibit=\"true\""),
-             "stand-alone-prohibited", 2, "fails the policy whatever its checks find"},
-    LintCase{"StandAloneWarning", inSection("<true/>", "primary=\"true\" severity=\"warning\""),
-             "stand-alone-warning", 2, "it still fails the policy"},
-    LintCase{"StandAloneSkip", inSection("<and skip=\"true\"><true/></and>"), "stand-alone-skip", 2,
-             "a skipped stand-alone section fails the policy"},
-    LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"},
-    LintCase{"PostureRequiredMissing", inSection("<true/>\n<FileContent path=\"/etc/hosts\"/>"), "check-attribute", 4,
-             "the attribute pattern is missing"},
-    LintCase{"ModeNotOctal", inSection("<FileMode path=\"/etc/shadow\" maxMode=\"0698\"/>"), "check-attribute", 3,
-             "maxMode is not an octal mode: 0698"},
-    LintCase{"PatternDoesNotCompile", inSection("<FileContent path=\"/etc/hosts\" pattern=\"(a|b\"/>"),
-             "check-attribute", 3, "pattern does not compile: missing closing parenthesis"},
-    LintCase{"PortOutOfRange", inSection("<not><PortListening port=\"70000\"/></not>"), "check-attribute", 3,
-             "port is not a number from 1 to 65535: 70000"},
-    LintCase{"UnknownProtocol", inSection("<PortListening port=\"53\" protocol=\"sctp\"/>"), "check-attribute", 3,
-             "protocol is not tcp or udp: sctp"}),
+INSTANTIATE_TEST_SUITE_P(
+    Policies, LintFlawTest,
+    testing::Values(
+        LintCase{"UnknownKind", inSection("<file fileName=\"passwd\"/>"), "unknown-element", 3, "<file>"},
+        LintCase{"UnknownAttribute", inSection("<ProcessExists procname=\"sshd\"/>"), "unknown-attribute", 3,
+                 "'procname'"},
+        LintCase{"UnknownOperation",
+                 inSection("<VersionFromScript script=\"echo 1\" required=\"1\" operation=\"ge\"/>"), "check-attribute",
+                 3, "operation 'ge' is not gt, gte, eq, lte or lt"},
+        LintCase{"DottedVersionWithoutDelim", inSection("<VersionFromScript script=\"echo 1.2\" required=\"1.10\"/>"),
+                 "check-attribute", 3, "compared as the single number 1"},
+        LintCase{"WordThatIsNotANumber",
+                 inSection("<VersionFromReceipt pkg=\"A.pkg\" required=\"2.beta\" delim=\".\"/>"), "check-attribute", 3,
+                 "'beta', compared as 0"},
+        LintCase{"OSVersionPartMissing", inSection("<MacOSXVersion major=\"10\" minor=\"6\"/>"), "check-attribute", 3,
+                 "micro '' is empty"},
+        LintCase{"BadDate", inSection("<File fileName=\"passwd\" startPath=\"/etc\" lastModified=\"June 2024\"/>"),
+                 "check-attribute", 3, "lastModified 'June 2024'"},
+        LintCase{"SecondaryWithoutPrimary",
+                 "<policy name=\"p\">\n<section name=\"lonely\" group=\"g\"><true/></section>\n</policy>\n",
+                 "never-runs", 2, "group 'g', which has no primary here"},
+        LintCase{"StandAloneNotPrimary", "<policy name=\"p\">\n<section name=\"idle\"><true/></section>\n</policy>\n",
+                 "never-runs", 2, "neither primary nor in a group nor custom"},
+        LintCase{
+            "OnlyOptionWithGroups",
+            "<policy name=\"p\">\n<option name=\"o\" type=\"ONLY\">\n<section name=\"a\" group=\"g\" primary=\"true\">"
+            "<true/></section>\n</option>\n</policy>\n",
+            "only-with-groups", 2, "type ONLY and has groups"},
+        LintCase{"TooManySections", manySections(1000), "too-many-sections", 0, "1000 sections"},
+        LintCase{"MisspeltTopLevelSection",
+                 "<policy name=\"p\">\n<section name=\"s\" primary=\"true\"><true/></section>\n<Sectoin name=\"t\"/>\n"
+                 "</policy>\n",
+                 "unknown-element", 3,
+                 "<Sectoin> under <policy> is not an element the policy reader uses: it was passed "
+                 "over, not evaluated (did you mean <section>?)"},
+        LintCase{"FileExecute",
+                 inSection("<File fileName=\"passwd\" startPath=\"/etc\" execute=\"true\" args=\"-v\"/>"),
+                 "file-execute", 3, "execute is read but nothing is started"},
+        LintCase{"StandAloneProhibited", inSection("<true/>", "primary=\"true\" prohibit=\"true\""),
+                 "stand-alone-prohibited", 2, "fails the policy whatever its checks find"},
+        LintCase{"StandAloneWarning", inSection("<true/>", "primary=\"true\" severity=\"warning\""),
+                 "stand-alone-warning", 2, "it still fails the policy"},
+        LintCase{"StandAloneSkip", inSection("<and skip=\"true\"><true/></and>"), "stand-alone-skip", 2,
+                 "a skipped stand-alone section fails the policy"},
+        LintCase{"NoSections", "<policy name=\"empty\"/>", "no-sections", 0, "no section"},
+        LintCase{"PostureRequiredMissing", inSection("<true/>\n<FileContent path=\"/etc/hosts\"/>"), "check-attribute",
+                 4, "the attribute pattern is missing"},
+        LintCase{"ModeNotOctal", inSection("<FileMode path=\"/etc/shadow\" maxMode=\"0698\"/>"), "check-attribute", 3,
+                 "maxMode is not an octal mode: 0698"},
+        LintCase{"PatternDoesNotCompile", inSection("<FileContent path=\"/etc/hosts\" pattern=\"(a|b\"/>"),
+                 "check-attribute", 3, "pattern does not compile: missing closing parenthesis"},
+        LintCase{"PortOutOfRange", inSection("<not><PortListening port=\"70000\"/></not>"), "check-attribute", 3,
+                 "port is not a number from 1 to 65535: 70000"},
+        LintCase{"UnknownProtocol", inSection("<PortListening port=\"53\" protocol=\"sctp\"/>"), "check-attribute", 3,
+                 "protocol is not tcp or udp: sctp"}),
     [](const testing::TestParamInfo<LintCase>& testCase) { return testCase.param.title; });
 
 // An include is reported, and one that is not http(s) twice: it would end the run.
 TEST(LintCommand, IncludesAreReportedNotFetched)
 {
     testing_support::TempDir dir;
-    auto path = dir.write("p.xml", "<policy name=\"p\">\n<include id=\"remote\" url=\"http://127.0.0.1:9/s.xml\"/>\n"
-                                   "<include id=\"local\" url=\"file:///etc/passwd\"/>\n</policy>\n");
+    auto path = dir.write("p.xml",
+                          "<policy name=\"p\">\n<include id=\"remote\" url=\"http://127.0.0.1:9/s.xml\"/>\n"
+                          "<include id=\"local\" url=\"file:///etc/passwd\"/>\n</policy>\n");
     auto result = runCli({"lint", path.string(), "--json"});
     EXPECT_EQ(result.exitCode, 1);
     std::vector<std::string> kinds;
@@ -126,7 +135,8 @@ TEST(LintCommand, ExamplesAreCleanAndScriptsAreShown)
     unsigned policies = 0;
     for (const auto& entry : std::filesystem::directory_iterator(std::string(TVPOLICY_SOURCE_DIR) + "/examples")) {
         std::string file = entry.path().string();
-        if (entry.path().extension() != ".xml" || testing_support::readFile(entry.path()).find("<policy") == std::string::npos) {
+        if (entry.path().extension() != ".xml" ||
+            testing_support::readFile(entry.path()).find("<policy") == std::string::npos) {
             continue;
         }
         ++policies;

@@ -36,26 +36,29 @@ TEST(MonitorCommand, OnceRunsTheExampleAndPasses)
 TEST(MonitorCommand, OnceFailsWhenAnyMonitorReportsFalse)
 {
     testing_support::TempDir dir;
-    auto file = dir.write("m.xml", "<m><Monitor id='a'><true/></Monitor><Monitor id='b'><false/></Monitor>"
-                                   "<Monitor id='c' prohibit='true'><false/></Monitor></m>");
+    auto file = dir.write("m.xml",
+                          "<m><Monitor id='a'><true/></Monitor><Monitor id='b'><false/></Monitor>"
+                          "<Monitor id='c' prohibit='true'><false/></Monitor></m>");
     auto result = runCli({"monitor", file.string(), "--once"});
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_EQ(linesOf(result.out), (std::vector<std::string>{status("a", true), status("b", false), status("c", true)}));
+    EXPECT_EQ(linesOf(result.out),
+              (std::vector<std::string>{status("a", true), status("b", false), status("c", true)}));
 }
 
 // Both monitors are due at start and every second after; the first always runs first.
 TEST(MonitorCommand, RunsEachMonitorWhenDueInOrder)
 {
     testing_support::TempDir dir;
-    auto file = dir.write("m.xml", "<m><Monitor id='first' period='1'><true/></Monitor>"
-                                   "<Monitor id='second' period='1' prohibit='true'><true/></Monitor>"
-                                   "<Monitor id='single'><true/></Monitor></m>");
+    auto file = dir.write("m.xml",
+                          "<m><Monitor id='first' period='1'><true/></Monitor>"
+                          "<Monitor id='second' period='1' prohibit='true'><true/></Monitor>"
+                          "<Monitor id='single'><true/></Monitor></m>");
     auto result = runCli({"monitor", file.string(), "--count", "7"});
     EXPECT_EQ(result.exitCode, 1) << result.err;  // 'second' reported false
     auto first = status("first", true);
     auto second = status("second", false);
-    EXPECT_EQ(linesOf(result.out), (std::vector<std::string>{first, second, status("single", true), first, second,
-                                                             first, second}));
+    EXPECT_EQ(linesOf(result.out),
+              (std::vector<std::string>{first, second, status("single", true), first, second, first, second}));
 }
 
 struct UsageCase {
@@ -79,19 +82,22 @@ TEST_P(MonitorUsageTest, ExitsTwoWithAMessage)
     EXPECT_NE(result.err.find(GetParam().inErr), std::string::npos) << result.err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Usage, MonitorUsageTest, testing::Values(
-    UsageCase{{"monitor", "/no/such/monitors.xml"}, "", "cannot read '/no/such/monitors.xml'"},
-    UsageCase{{"monitor", "--once"}, "<m><monitor id='lower-case'/></m>", "holds no Monitor element"},
-    UsageCase{{"monitor", "--once"}, "not xml", "not XML: "},
-    UsageCase{{"monitor", "--once"}, "<monitors><Monitor id='a' period='5'><true/></Monitor>", "not XML: "},
-    UsageCase{{"monitor", "--once"}, " \n", "holds only white space"},
-    UsageCase{{"monitor", "--once", "--count", "2"}, "<Monitor id='a'/>", "excludes"},
-    UsageCase{{"monitor", "--count", "0"}, "<Monitor id='a'/>", "--count: must be at least 1"}));
+INSTANTIATE_TEST_SUITE_P(
+    Usage, MonitorUsageTest,
+    testing::Values(UsageCase{{"monitor", "/no/such/monitors.xml"}, "", "cannot read '/no/such/monitors.xml'"},
+                    UsageCase{{"monitor", "--once"}, "<m><monitor id='lower-case'/></m>", "holds no Monitor element"},
+                    UsageCase{{"monitor", "--once"}, "not xml", "not XML: "},
+                    UsageCase{
+                        {"monitor", "--once"}, "<monitors><Monitor id='a' period='5'><true/></Monitor>", "not XML: "},
+                    UsageCase{{"monitor", "--once"}, " \n", "holds only white space"},
+                    UsageCase{{"monitor", "--once", "--count", "2"}, "<Monitor id='a'/>", "excludes"},
+                    UsageCase{{"monitor", "--count", "0"}, "<Monitor id='a'/>", "--count: must be at least 1"}));
 
 // "-" reads the monitors from standard input.
 TEST(MonitorCommand, ReadsStandardInput)
 {
-    auto result = runCli({"monitor", "--once", "-"}, "<monitors><Monitor id='a' period='5'><true/></Monitor></monitors>");
+    auto result =
+        runCli({"monitor", "--once", "-"}, "<monitors><Monitor id='a' period='5'><true/></Monitor></monitors>");
     EXPECT_EQ(result.exitCode, 0) << result.err;
     EXPECT_NE(result.out.find("<status>true</status>"), std::string::npos) << result.out;
 }
@@ -108,7 +114,9 @@ TEST_P(MonitorSignalTest, StopsCleanlyBetweenRuns)
     std::string script =
         "\"$0\" monitor \"$1\" > \"$2\" 2>/dev/null & pid=$!\n"
         "i=0; while [ ! -s \"$2\" ] && [ $i -lt 400 ]; do sleep 0.05; i=$((i+1)); done\n"
-        "kill -" + std::string(GetParam()) + " $pid\n"
+        "kill -" +
+        std::string(GetParam()) +
+        " $pid\n"
         "i=0; while kill -0 $pid 2>/dev/null && [ $i -lt 400 ]; do sleep 0.05; i=$((i+1)); done\n"
         "kill -0 $pid 2>/dev/null && { kill -KILL $pid; echo hung; }\n"
         "wait $pid; echo \"exit=$?\"; cat \"$2\"\n";
@@ -147,16 +155,18 @@ TEST_P(MonitorUnreadTest, IsWarnedRefusedAndLinted)
     EXPECT_NE(lint.out.find(GetParam().warning), std::string::npos) << lint.out;
 }
 
-INSTANTIATE_TEST_SUITE_P(Documents, MonitorUnreadTest, testing::Values(
-    UnreadCase{"MisspeltElement",
-               "<monitors>\n<Monitor id='telnet' prohibit='true'><processExists procName='in.telnetd'/></Monitor>\n"
-               "</monitors>",
-               "<processExists> in monitor 'telnet' names no check kind"},
-    UnreadCase{"MisspeltAttribute",
-               "<monitors>\n<Monitor id='shell'><ProcessExists procname='bash'/></Monitor>\n</monitors>",
-               "attribute 'procname' of <ProcessExists> in monitor 'shell' is not one that ProcessExists reads"},
-    UnreadCase{"MonitorAttribute", "<monitors>\n<Monitor id='a' perod='5'><true/></Monitor>\n</monitors>",
-               "attribute 'perod' of <Monitor> 'a' is not one that a monitor reads"}),
+INSTANTIATE_TEST_SUITE_P(
+    Documents, MonitorUnreadTest,
+    testing::Values(
+        UnreadCase{"MisspeltElement",
+                   "<monitors>\n<Monitor id='telnet' prohibit='true'><processExists procName='in.telnetd'/></Monitor>\n"
+                   "</monitors>",
+                   "<processExists> in monitor 'telnet' names no check kind"},
+        UnreadCase{"MisspeltAttribute",
+                   "<monitors>\n<Monitor id='shell'><ProcessExists procname='bash'/></Monitor>\n</monitors>",
+                   "attribute 'procname' of <ProcessExists> in monitor 'shell' is not one that ProcessExists reads"},
+        UnreadCase{"MonitorAttribute", "<monitors>\n<Monitor id='a' perod='5'><true/></Monitor>\n</monitors>",
+                   "attribute 'perod' of <Monitor> 'a' is not one that a monitor reads"}),
     [](const testing::TestParamInfo<UnreadCase>& testCase) { return testCase.param.title; });
 
 TEST(MonitorCommand, CountExitsByTheStatuses)
@@ -179,7 +189,7 @@ struct WhyCase {
     std::string title;
     std::string monitor;  // one Monitor element with id 'm'
     bool status;
-    std::string why;  // on standard error and in the JSON line; empty for a true status
+    std::string why;                  // on standard error and in the JSON line; empty for a true status
     std::vector<std::string> checks;  // the kinds performed, in order
 };
 
@@ -206,8 +216,7 @@ TEST_P(MonitorWhyTest, SaysWhichCheckDecided)
     auto line = nlohmann::json::parse(json.out);
     EXPECT_EQ(line["id"], "m");
     EXPECT_EQ(line["status"], GetParam().status);
-    EXPECT_TRUE(std::regex_match(line["time"].get<std::string>(),
-                                 std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ)")))
+    EXPECT_TRUE(std::regex_match(line["time"].get<std::string>(), std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ)")))
         << line["time"];
     std::vector<std::string> kinds;
     for (const auto& check : line["checks"]) {
@@ -218,18 +227,30 @@ TEST_P(MonitorWhyTest, SaysWhichCheckDecided)
     EXPECT_EQ(line.value("why", ""), GetParam().why) << json.out;
 }
 
-INSTANTIATE_TEST_SUITE_P(Monitors, MonitorWhyTest, testing::Values(
-    WhyCase{"AllPass", "<Monitor id='m'><true/><true/></Monitor>", true, "", {"true", "true"}},
-    WhyCase{"StopsAtTheFirstFailure", "<Monitor id='m'><true/><false/><true/></Monitor>", false,
-            "check false failed", {"true", "false"}},
-    WhyCase{"ProcessNotRunning",
-            "<Monitor id='m'><ProcessExists procName='no-such-process-tvpolicy'/></Monitor>", false,
-            "check ProcessExists (Process Not Running) failed", {"ProcessExists"}},
-    WhyCase{"ProhibitedAndFound", "<Monitor id='m' prohibit='true'><true/></Monitor>", false,
-            "it is prohibited and every check passed: true", {"true"}},
-    WhyCase{"ProhibitedAndAbsent", "<Monitor id='m' prohibit='true'><true/><false/></Monitor>", true, "",
-            {"true", "false"}},
-    WhyCase{"NoCheck", "<Monitor id='m'/>", false, "it holds no check", {}}),
+INSTANTIATE_TEST_SUITE_P(
+    Monitors, MonitorWhyTest,
+    testing::Values(WhyCase{"AllPass", "<Monitor id='m'><true/><true/></Monitor>", true, "", {"true", "true"}},
+                    WhyCase{"StopsAtTheFirstFailure",
+                            "<Monitor id='m'><true/><false/><true/></Monitor>",
+                            false,
+                            "check false failed",
+                            {"true", "false"}},
+                    WhyCase{"ProcessNotRunning",
+                            "<Monitor id='m'><ProcessExists procName='no-such-process-tvpolicy'/></Monitor>",
+                            false,
+                            "check ProcessExists (Process Not Running) failed",
+                            {"ProcessExists"}},
+                    WhyCase{"ProhibitedAndFound",
+                            "<Monitor id='m' prohibit='true'><true/></Monitor>",
+                            false,
+                            "it is prohibited and every check passed: true",
+                            {"true"}},
+                    WhyCase{"ProhibitedAndAbsent",
+                            "<Monitor id='m' prohibit='true'><true/><false/></Monitor>",
+                            true,
+                            "",
+                            {"true", "false"}},
+                    WhyCase{"NoCheck", "<Monitor id='m'/>", false, "it holds no check", {}}),
     [](const testing::TestParamInfo<WhyCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

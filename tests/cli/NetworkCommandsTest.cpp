@@ -24,7 +24,8 @@ TEST(InterfacesCommand, JsonIsCleanAndAgreesWithTheReport)
         }
     }
     std::size_t fragments = 0;
-    for (std::size_t at = xml.out.find("<interface>"); at != std::string::npos; at = xml.out.find("<interface>", at + 1)) {
+    for (std::size_t at = xml.out.find("<interface>"); at != std::string::npos;
+         at = xml.out.find("<interface>", at + 1)) {
         ++fragments;
     }
     EXPECT_EQ(fragments, withMac);

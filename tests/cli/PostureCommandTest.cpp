@@ -72,7 +72,8 @@ std::vector<std::string> sectionsNotPassed(const std::string& hostFile)
 TEST(PostureCommand, BaselinePassesOnTheDescribedServerAndEachFactFailsItsSection)
 {
     testing_support::TempDir dir;
-    auto examplesHost = runCli({"run", examples + "linux-baseline.xml", "--host", examples + "hosts/debian-12-server.json"});
+    auto examplesHost =
+        runCli({"run", examples + "linux-baseline.xml", "--host", examples + "hosts/debian-12-server.json"});
     EXPECT_EQ(examplesHost.exitCode, 0) << examplesHost.out << examplesHost.err;
     EXPECT_EQ(sectionsNotPassed(describedWith(dir, [](Json&) {})), std::vector<std::string>{});
     struct Change {
@@ -81,8 +82,14 @@ TEST(PostureCommand, BaselinePassesOnTheDescribedServerAndEachFactFailsItsSectio
     } changes[] = {
         {"SSH server installed: failed", [](Json& h) { h["packages"][0]["version"] = "1:8.4p1-5"; }},
         {"SSH server running: failed", [](Json& h) { h["services"][0]["enabled"] = false; }},
-        {"No telnet server: failed", [](Json& h) { h["packages"].push_back({{"name", "telnetd"}, {"version", "0.17-42"}}); }},
-        {"No telnet server: failed", [](Json& h) { h["listening"].push_back({{"port", 23}}); }},
+        {"No telnet server: failed",
+         [](Json& h) {
+             h["packages"].push_back({{"name", "telnetd"}, {"version", "0.17-42"}});
+         }},
+        {"No telnet server: failed",
+         [](Json& h) {
+             h["listening"].push_back({{"port", 23}});
+         }},
         {"Password hashes protected: failed", [](Json& h) { h["fileModes"]["/etc/shadow"]["mode"] = "0644"; }},
         {"Firewall active: failed", [](Json& h) { h["firewall"] = false; }},
         {"IP forwarding off: failed", [](Json& h) { h["kernelParameters"]["net.ipv4.ip_forward"] = "1"; }},
@@ -111,7 +118,8 @@ TEST(PostureCommand, ReportsShowWhatNestedChecksFound)
     std::string junit = (dir.path() / "r.xml").string();
     std::string html = (dir.path() / "r.html").string();
     auto text = runCli({"run", examples + "linux-baseline.xml", "--host", host, "--junit", junit, "--report", html});
-    EXPECT_NE(text.out.find("PortListening port=\"23\" - tcp port 23 is listening (IPv4)"), std::string::npos) << text.out;
+    EXPECT_NE(text.out.find("PortListening port=\"23\" - tcp port 23 is listening (IPv4)"), std::string::npos)
+        << text.out;
     EXPECT_NE(text.out.find("PackageInstalled name=\"openssh-server\" required=\"1:9.2\": passed - openssh-server "
                             "1:9.2p1-2+deb12u3 is installed (gte 1:9.2)"),
               std::string::npos)
@@ -129,7 +137,8 @@ TEST(PostureCommand, MalformedPostureFactsAreRefusedByName)
     } rows[] = {
         {[](Json& h) { h["listening"][0]["port"] = 0; }, "field 'listening[0].port' must be a number from 1 to 65535"},
         {[](Json& h) { h["services"][0]["active"] = "yes"; }, "field 'services[0].active' must be true or false"},
-        {[](Json& h) { h["fileModes"]["/etc/shadow"]["mode"] = "rw"; }, "field 'fileModes./etc/shadow.mode' must be an octal mode"},
+        {[](Json& h) { h["fileModes"]["/etc/shadow"]["mode"] = "rw"; },
+         "field 'fileModes./etc/shadow.mode' must be an octal mode"},
         {[](Json& h) { h["firewall"] = "on"; }, "field 'firewall' must be true or false"},
     };
     for (const auto& row : rows) {

@@ -32,16 +32,22 @@ std::string mixedPolicy()
            "<File fileName=\"no-such-file\" startPath=\"/nonexistent\"/></section>\n"
            "<section name=\"Warns\" primary=\"true\" severity=\"warning\" instr=\"http://nac.test/help\"><false/></section>\n"
            "<section name=\"Prohibited and skipped\" primary=\"true\" prohibit=\"true\"><false/></section>\n"
-           "<section name=\"" + std::string("&lt;script&gt;document.title='owned'&lt;/script&gt;&amp;amp;") +
+           "<section name=\"" +
+           std::string("&lt;script&gt;document.title='owned'&lt;/script&gt;&amp;amp;") +
            "\" primary=\"true\"><true/></section>\n</policy>\n";
 }
 
-bool haveChromium() { return std::system("command -v chromium >/dev/null 2>&1 && command -v unshare >/dev/null 2>&1") == 0; }
+bool haveChromium()
+{
+    return std::system("command -v chromium >/dev/null 2>&1 && command -v unshare >/dev/null 2>&1") == 0;
+}
 
 // Chromium, headless and without any network (its own empty network namespace), on `url`.
 testing_support::CliResult chromium(const std::filesystem::path& profile, const std::vector<std::string>& arguments)
 {
-    std::vector<std::string> argv{"unshare", "-n", "chromium", "--headless=new", "--no-sandbox", "--disable-gpu",
+    std::vector<std::string> argv{"unshare",        "-n",
+                                  "chromium",       "--headless=new",
+                                  "--no-sandbox",   "--disable-gpu",
                                   "--no-first-run", "--user-data-dir=" + profile.string()};
     argv.insert(argv.end(), arguments.begin(), arguments.end());
     return runProgram(argv);
@@ -66,21 +72,23 @@ TEST(ReportFiles, HtmlShowsTheVerdictEverySectionAndEscapesThePolicy)
     std::string url = "file://" + html.string();
     auto dom = chromium(dir.path() / "profile", {"--dump-dom", url});
     ASSERT_EQ(dom.exitCode, 0) << dom.err;
-    EXPECT_NE(dom.out.find("<title>Policy \"Mixed &lt;b&gt;bold&lt;/b&gt;\": FAIL</title>"), std::string::npos) << dom.out;
+    EXPECT_NE(dom.out.find("<title>Policy \"Mixed &lt;b&gt;bold&lt;/b&gt;\": FAIL</title>"), std::string::npos)
+        << dom.out;
     EXPECT_NE(dom.out.find("id=\"verdict\">✘ FAIL</div>"), std::string::npos);
     for (const char* section : {"Passes", "Fails", "Warns", "Prohibited and skipped"}) {
         EXPECT_NE(dom.out.find(std::string("Section “") + section + "”"), std::string::npos) << section;
     }
     // The hostile name is text: escaped in the DOM, never an element; the title kept.
-    EXPECT_NE(dom.out.find("“&lt;script&gt;document.title='owned'&lt;/script&gt;&amp;amp;”"), std::string::npos) << dom.out;
+    EXPECT_NE(dom.out.find("“&lt;script&gt;document.title='owned'&lt;/script&gt;&amp;amp;”"), std::string::npos)
+        << dom.out;
     EXPECT_EQ(dom.out.find("owned</title>"), std::string::npos);
     EXPECT_NE(dom.out.find("<strong>Help:</strong> Fix it."), std::string::npos);
     EXPECT_NE(dom.out.find("<a href=\"http://nac.test/help\""), std::string::npos);  // http(s) links only
     EXPECT_NE(dom.out.find("<code>javascript:alert(1)</code>"), std::string::npos);
     EXPECT_NE(dom.out.find("<summary>Evaluation trace</summary>"), std::string::npos);
 
-    for (const auto& [name, size] : std::vector<std::pair<std::string, std::string>>{{"wide.png", "1280,1600"},
-                                                                                       {"phone.png", "390,1600"}}) {
+    for (const auto& [name, size] :
+         std::vector<std::pair<std::string, std::string>>{{"wide.png", "1280,1600"}, {"phone.png", "390,1600"}}) {
         auto shot = chromium(dir.path() / "profile", {"--screenshot=" + (dir.path() / name).string(),
                                                       "--window-size=" + size, "--hide-scrollbars", url});
         EXPECT_EQ(shot.exitCode, 0) << shot.err;
@@ -131,16 +139,17 @@ TEST(ReportFiles, JunitHasOneCasePerSectionWithFailuresAndSkips)
     for (XMLSize_t i = 0; i < cases->getLength(); ++i) {
         auto* testCase = static_cast<xercesc::DOMElement*>(cases->item(i));
         auto* child = testCase->getFirstElementChild();
-        outcomes.push_back(attribute(testCase, "name") + ":" + (child == nullptr ? "pass" : tvpolicy::xml::utf8(child->getTagName())));
-        if (child != nullptr && tvpolicy::xml::utf8(child->getTagName()) == "failure" && attribute(testCase, "name") == "Fails") {
+        outcomes.push_back(attribute(testCase, "name") + ":" +
+                           (child == nullptr ? "pass" : tvpolicy::xml::utf8(child->getTagName())));
+        if (child != nullptr && tvpolicy::xml::utf8(child->getTagName()) == "failure" &&
+            attribute(testCase, "name") == "Fails") {
             EXPECT_EQ(attribute(child, "message"),
                       "File fileName=\"no-such-file\" startPath=\"/nonexistent\": failed - FileTask/File Not Found");
             EXPECT_NE(tvpolicy::xml::utf8(child->getTextContent()).find("help: Fix it."), std::string::npos);
         }
     }
     EXPECT_EQ(outcomes, (std::vector<std::string>{"Passes:pass", "Fails:failure", "Warns:failure",
-                                                  "Prohibited and skipped:failure",
-                                                  hostileName + ":pass"}));
+                                                  "Prohibited and skipped:failure", hostileName + ":pass"}));
 }
 
 }  // namespace

@@ -37,8 +37,8 @@ std::string withoutHostWarnings(const std::string& err)
 struct ExampleCase {
     std::string file;
     int exitCode;
-    std::string verdict;                    // the last line of standard output
-    std::vector<std::string> progressLines; // standard error, in order
+    std::string verdict;                     // the last line of standard output
+    std::vector<std::string> progressLines;  // standard error, in order
 };
 
 class RunExampleTest : public testing::TestWithParam<ExampleCase> {};
@@ -56,29 +56,44 @@ TEST_P(RunExampleTest, ReportsAndExitsByTheResult)
     EXPECT_EQ(withoutHostWarnings(result.err), expectedErr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, RunExampleTest, testing::Values(
-    ExampleCase{"compliant.xml", 0, "Policy \"Workstation baseline\": PASS (3 passed, 0 failed, 0 warning, 0 skipped of 3 sections)\n",
-                {"[1/3] Account database present", "[2/3] Agent running", "[3/3] Policy logic"}},
-    ExampleCase{"noncompliant.xml", 1, "Policy \"Hardened workstation\": FAIL (1 passed, 1 failed, 1 warning, 1 skipped of 4 sections)\n",
-                {"[1/4] Account database present", "[2/4] No plain account database", "[3/4] Endpoint antivirus installed",
-                 "[4/4] Remote shell server"}},
-    ExampleCase{"options.xml", 0, "Policy \"Antivirus choice\": PASS (4 passed, 1 failed, 0 warning, 1 skipped of 6 sections)\n",
-                {"[1/6] Vendor antivirus", "[2/6] (passed over) Vendor antivirus definitions", "[3/6] Built-in protection",
-                 "[4/6] Built-in protection enabled", "[5/6] Agent", "[6/6] Agent configuration"}},
-    ExampleCase{"file-and-version-checks.xml", 0,
-                "Policy \"File and version checks\": PASS (3 passed, 0 failed, 0 warning, 0 skipped of 3 sections)\n",
-                {"[1/3] License texts installed", "[2/3] Kernel 3.2 or later", "[3/3] Legacy agent removed"}},
-    ExampleCase{"os-and-processes.xml", 0, "Policy \"OS and processes\": PASS (4 passed, 0 failed, 0 warning, 0 skipped of 4 sections)\n",
-                {"[1/4] Debian 12 or later", "[2/4] Newer than Debian 11", "[3/4] Agent running", "[4/4] No telnet server"}}));
+INSTANTIATE_TEST_SUITE_P(
+    Examples, RunExampleTest,
+    testing::Values(
+        ExampleCase{"compliant.xml",
+                    0,
+                    "Policy \"Workstation baseline\": PASS (3 passed, 0 failed, 0 warning, 0 skipped of 3 sections)\n",
+                    {"[1/3] Account database present", "[2/3] Agent running", "[3/3] Policy logic"}},
+        ExampleCase{"noncompliant.xml",
+                    1,
+                    "Policy \"Hardened workstation\": FAIL (1 passed, 1 failed, 1 warning, 1 skipped of 4 sections)\n",
+                    {"[1/4] Account database present", "[2/4] No plain account database",
+                     "[3/4] Endpoint antivirus installed", "[4/4] Remote shell server"}},
+        ExampleCase{
+            "options.xml",
+            0,
+            "Policy \"Antivirus choice\": PASS (4 passed, 1 failed, 0 warning, 1 skipped of 6 sections)\n",
+            {"[1/6] Vendor antivirus", "[2/6] (passed over) Vendor antivirus definitions", "[3/6] Built-in protection",
+             "[4/6] Built-in protection enabled", "[5/6] Agent", "[6/6] Agent configuration"}},
+        ExampleCase{
+            "file-and-version-checks.xml",
+            0,
+            "Policy \"File and version checks\": PASS (3 passed, 0 failed, 0 warning, 0 skipped of 3 sections)\n",
+            {"[1/3] License texts installed", "[2/3] Kernel 3.2 or later", "[3/3] Legacy agent removed"}},
+        ExampleCase{"os-and-processes.xml",
+                    0,
+                    "Policy \"OS and processes\": PASS (4 passed, 0 failed, 0 warning, 0 skipped of 4 sections)\n",
+                    {"[1/4] Debian 12 or later", "[2/4] Newer than Debian 11", "[3/4] Agent running",
+                     "[4/4] No telnet server"}}));
 
 TEST(RunCommand, FailedSectionsShowHelpAndInstructions)
 {
     auto result = runCli({"run", example("noncompliant.xml")});
-    EXPECT_NE(result.out.find("Section \"Endpoint antivirus installed\": warning\n"
-                              "    File fileName=\"endpoint-av.conf\" startPath=\"/etc\": failed - FileTask/File Not Found\n"
-                              "    help: Install the endpoint antivirus package.\n"
-                              "    instructions: http://nac.example.test/help/antivirus\n"),
-              std::string::npos)
+    EXPECT_NE(
+        result.out.find("Section \"Endpoint antivirus installed\": warning\n"
+                        "    File fileName=\"endpoint-av.conf\" startPath=\"/etc\": failed - FileTask/File Not Found\n"
+                        "    help: Install the endpoint antivirus package.\n"
+                        "    instructions: http://nac.example.test/help/antivirus\n"),
+        std::string::npos)
         << result.out;
 }
 
@@ -90,7 +105,9 @@ TEST(RunCommand, JsonIsOneCleanDocumentEvenWithTheLibraryLogShown)
     EXPECT_EQ(report["policy"], "Hardened workstation");
     EXPECT_EQ(report["result"], "FAIL");
     EXPECT_EQ(report["passed"], false);
-    EXPECT_EQ(report["counts"], nlohmann::json::parse(R"({"sections":4,"passed":1,"failed":1,"warning":1,"skipped":1,"notEvaluated":0})"));
+    EXPECT_EQ(
+        report["counts"],
+        nlohmann::json::parse(R"({"sections":4,"passed":1,"failed":1,"warning":1,"skipped":1,"notEvaluated":0})"));
     EXPECT_EQ(report["progress"]["max"], 4);
     std::vector<unsigned> statuses;
     for (const auto& item : report["items"]) {
@@ -123,9 +140,9 @@ TEST(RunCommand, TraceShowsTheEvaluation)
 {
     auto text = runCli({"run", "--trace", example("compliant.xml")});
     EXPECT_EQ(text.exitCode, 0);
-    for (const char* line : {"Running_Policy Workstation baseline\n", "\tTesting Agent running\n",
-                             "\t\tProcessExistsTask Passed \n", "\t\t\tInfo: Process Running\n",
-                             "Policy Workstation baseline Passed \n"}) {
+    for (const char* line :
+         {"Running_Policy Workstation baseline\n", "\tTesting Agent running\n", "\t\tProcessExistsTask Passed \n",
+          "\t\t\tInfo: Process Running\n", "Policy Workstation baseline Passed \n"}) {
         EXPECT_NE(text.out.find(line), std::string::npos) << line;
     }
     auto json = runCli({"run", "--json", "--trace", example("compliant.xml")});
@@ -137,7 +154,8 @@ TEST(RunCommand, TraceShowsTheEvaluation)
 
 TEST(RunCommand, ReadsStandardInput)
 {
-    auto result = runCli({"run", "-"}, "<policy name=\"in\"><section name=\"s\" primary=\"true\"><false/></section></policy>");
+    auto result =
+        runCli({"run", "-"}, "<policy name=\"in\"><section name=\"s\" primary=\"true\"><false/></section></policy>");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_NE(result.out.find("Policy \"in\": FAIL"), std::string::npos);
     EXPECT_EQ(result.err, "[1/1] s\n");
@@ -151,6 +169,5 @@ TEST(RunCommand, MissingSourceIsAUsageError)
     auto none = runCli({"run"});
     EXPECT_EQ(none.exitCode, 2);
 }
-
 
 }  // namespace

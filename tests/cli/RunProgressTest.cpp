@@ -58,10 +58,12 @@ TEST_P(RunOnTerminalTest, ShowsWhatTheTerminalCanTake)
     }
     const TerminalCase& c = GetParam();
     testing_support::TempDir dir;
-    auto policy = dir.write("p.xml", "<policy name=\"p\">"
-                                     "<section name=\"日本語の名前がとても長いセクションです本当に長い\" primary=\"true\"><true/></section>"
-                                     "<section name=\"second\" group=\"g\" primary=\"true\"><false/></section>"
-                                     "<section name=\"skipped secondary\" group=\"g\"><true/></section></policy>");
+    auto policy = dir.write(
+        "p.xml",
+        "<policy name=\"p\">"
+        "<section name=\"日本語の名前がとても長いセクションです本当に長い\" primary=\"true\"><true/></section>"
+        "<section name=\"second\" group=\"g\" primary=\"true\"><false/></section>"
+        "<section name=\"skipped secondary\" group=\"g\"><true/></section></policy>");
     std::string command = std::string(TVPOLICY_CLI) + " run " + policy.string();
     for (const std::string& argument : c.extra) {
         command += " " + argument;
@@ -76,14 +78,21 @@ TEST_P(RunOnTerminalTest, ShowsWhatTheTerminalCanTake)
     EXPECT_LT(widestBar(screen), c.columns) << screen;
 }
 
-INSTANTIATE_TEST_SUITE_P(Terminals, RunOnTerminalTest, testing::Values(
-    TerminalCase{"Wide", 100, "TERM=xterm", {},
-                 {"] 3/3 (passed over) skipped secondary\033[K", "\033[31mFAIL\033[0m", "\033[32mpassed\033[0m"}, {"[1/3]"}},
-    TerminalCase{"Narrow", 40, "TERM=xterm", {}, {"] 1/3 日本", "\r\033[K"}, {"本当に長い\033[K"}},
-    TerminalCase{"Dumb", 80, "TERM=dumb", {}, {"[1/3] 日本語", "[3/3] (passed over) skipped secondary\r\n"}, {"\033["}},
-    TerminalCase{"NoColorVariable", 80, "TERM=xterm NO_COLOR=1", {}, {"FAIL ("}, {"\033[3"}},
-    TerminalCase{"NoColorFlag", 80, "TERM=xterm", {"--no-color"}, {"FAIL ("}, {"\033[3"}},
-    TerminalCase{"Quiet", 80, "TERM=xterm", {"-q"}, {"FAIL"}, {"1/3", "\033[K"}}),
+INSTANTIATE_TEST_SUITE_P(
+    Terminals, RunOnTerminalTest,
+    testing::Values(
+        TerminalCase{"Wide",
+                     100,
+                     "TERM=xterm",
+                     {},
+                     {"] 3/3 (passed over) skipped secondary\033[K", "\033[31mFAIL\033[0m", "\033[32mpassed\033[0m"},
+                     {"[1/3]"}},
+        TerminalCase{"Narrow", 40, "TERM=xterm", {}, {"] 1/3 日本", "\r\033[K"}, {"本当に長い\033[K"}},
+        TerminalCase{
+            "Dumb", 80, "TERM=dumb", {}, {"[1/3] 日本語", "[3/3] (passed over) skipped secondary\r\n"}, {"\033["}},
+        TerminalCase{"NoColorVariable", 80, "TERM=xterm NO_COLOR=1", {}, {"FAIL ("}, {"\033[3"}},
+        TerminalCase{"NoColorFlag", 80, "TERM=xterm", {"--no-color"}, {"FAIL ("}, {"\033[3"}},
+        TerminalCase{"Quiet", 80, "TERM=xterm", {"-q"}, {"FAIL"}, {"1/3", "\033[K"}}),
     [](const testing::TestParamInfo<TerminalCase>& testCase) { return testCase.param.title; });
 
 // Ctrl-C in the middle of a run erases the bar before the program ends.
@@ -93,9 +102,11 @@ TEST(RunOnTerminal, InterruptErasesTheBar)
         GTEST_SKIP() << "the script program (util-linux) is not installed, so no terminal can be given";
     }
     testing_support::TempDir dir;
-    auto policy = dir.write("slow.xml", "<policy name=\"p\"><section name=\"slow\" primary=\"true\">"
-                                        "<VersionFromScript script=\"sleep 5; echo 1\" required=\"1\"/></section></policy>");
-    std::string command = std::string(TVPOLICY_CLI) + " run " + policy.string() + " & sleep 1; kill -INT $!; wait $!; echo \"status $?\"";
+    auto policy = dir.write("slow.xml",
+                            "<policy name=\"p\"><section name=\"slow\" primary=\"true\">"
+                            "<VersionFromScript script=\"sleep 5; echo 1\" required=\"1\"/></section></policy>");
+    std::string command =
+        std::string(TVPOLICY_CLI) + " run " + policy.string() + " & sleep 1; kill -INT $!; wait $!; echo \"status $?\"";
     std::string screen = onTerminal("sh -c '" + command + "'", 80);
     std::size_t bar = screen.find("] 1/1 slow\033[K");
     ASSERT_NE(bar, std::string::npos) << screen;

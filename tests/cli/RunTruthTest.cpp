@@ -22,18 +22,19 @@ std::string example(const std::string& name) { return std::string(TVPOLICY_SOURC
 
 std::string policyOf(const std::string& sectionBody, const std::string& head = "")
 {
-    return "<policy name=\"p\">\n" + head + "<section name=\"s\" primary=\"true\">\n" + sectionBody + "</section>\n</policy>\n";
+    return "<policy name=\"p\">\n" + head + "<section name=\"s\" primary=\"true\">\n" + sectionBody +
+           "</section>\n</policy>\n";
 }
 
 const std::string unableToRead = "tvpolicy run: Unable to read policy.\n";
 
 struct FlawedCase {
     std::string title;
-    std::string content;                // written to policy.xml unless `path` is given
-    std::string path;                   // a path to run instead ("DIR" for the temporary folder)
-    std::vector<std::string> extra;     // more arguments
+    std::string content;             // written to policy.xml unless `path` is given
+    std::string path;                // a path to run instead ("DIR" for the temporary folder)
+    std::vector<std::string> extra;  // more arguments
     int exitCode;
-    std::vector<std::string> inErr;     // each must appear on standard error
+    std::vector<std::string> inErr;  // each must appear on standard error
 };
 
 class FlawedInputTest : public testing::TestWithParam<FlawedCase> {};
@@ -42,7 +43,9 @@ TEST_P(FlawedInputTest, RefusesWithTheCauseAndTheDocumentedStatus)
 {
     const FlawedCase& c = GetParam();
     testing_support::TempDir dir;
-    std::string path = c.path == "DIR" ? dir.path().string() : c.path.empty() ? dir.write("policy.xml", c.content).string() : c.path;
+    std::string path = c.path == "DIR"  ? dir.path().string()
+                       : c.path.empty() ? dir.write("policy.xml", c.content).string()
+                                        : c.path;
     std::vector<std::string> args{"run", path, "-q"};
     args.insert(args.end(), c.extra.begin(), c.extra.end());
     auto result = runCli(args);
@@ -57,57 +60,107 @@ TEST_P(FlawedInputTest, RefusesWithTheCauseAndTheDocumentedStatus)
 
 std::string monitorDocument() { return "<monitors><Monitor name=\"m\" period=\"5\"><true/></Monitor></monitors>"; }
 
-INSTANTIATE_TEST_SUITE_P(Inputs, FlawedInputTest, testing::Values(
-    FlawedCase{"HtmlPage", "<html><body><p>not a policy</p></body></html>", "", {}, 2,
-               {"is not a policy: its root element is <html>, a policy's is <policy>"}},
-    FlawedCase{"MonitorDocument", monitorDocument(), "", {}, 2, {"its root element is <monitors>"}},
-    FlawedCase{"ConfigurationDocument", "", example("agent-config.xml"), {}, 2, {"its root element is <agentConfig>"}},
-    FlawedCase{"EmptyFile", "", "", {}, 2, {unableToRead, "policy.xml: is empty\n"}},
-    FlawedCase{"WhiteSpace", " \n\t\n", "", {}, 2, {"policy.xml: holds only white space"}},
-    FlawedCase{"DevNull", "", "/dev/null", {}, 2, {unableToRead, "/dev/null: is empty\n"}},
-    FlawedCase{"Directory", "", "DIR", {}, 2, {unableToRead, ": is a directory\n"}},
-    FlawedCase{"BinaryData", std::string("\x7f" "ELF\x02\x01\x01\0\0<\xff\xfe>\x80", 14), "", {}, 2,
-               {unableToRead, "policy.xml: not XML: ", " at line 1, column "}},
-    FlawedCase{"OneLineCutShort", "<policy name=\"p\"><section name=\"s\" primary=\"true\"><true/>", "", {}, 2,
-               {unableToRead, "not XML: "}},
-    FlawedCase{"LaterLineCutShort", "<policy name=\"p\">\n<section name=\"s\">\n</policy>", "", {}, 2,
-               {"tvpolicy run: A configuration error has occurred at line: 3\n", "not XML: ", "at line 3, column"}},
-    FlawedCase{"NestedTooDeep", "<policy>\n<section name=\"s\">\n" + std::string(4000, ' ') + [] {
-                   std::string deep;
-                   for (int i = 0; i < 2000; ++i) deep += "<and>";
-                   return deep;
-               }() + "</section></policy>", "", {}, 2,
-               {"A configuration error has occurred at line: 3", "nested deeper than 1000 levels"}},
-    FlawedCase{"LargerThanTheCap", std::string(1100000, ' ') + "<policy/>", "", {"--max-size", "1"}, 2,
-               {"larger than the limit of 1 MB (--max-size)"}},
-    FlawedCase{"Missing", "", "/nonexistent/policy.xml", {}, 2, {"cannot read '/nonexistent/policy.xml': No such file"}},
-    FlawedCase{"TypoStrict", policyOf("<file fileName=\"passwd\" startPath=\"/etc\"/>\n"), "", {"--strict"}, 2,
-               {"line 3: <file> in section \"s\" names no check kind", "--strict"}},
-    FlawedCase{"UnknownAttributeStrict", policyOf("<File filename=\"passwd\" startPath=\"/etc\"/>\n"), "", {"--strict"}, 2,
-               {"line 3: attribute 'filename' of <File> in section \"s\" is not one that File reads"}},
-    FlawedCase{"NoSectionsStrict", "<policy name=\"p\"/>", "", {"--strict"}, 2, {"the policy holds no section"}},
-    FlawedCase{"IncludeUnreachable",
-               "<policy name=\"p\">\n<include id=\"remote\" url=\"http://127.0.0.1:9/section.xml\"/>\n</policy>\n", "", {}, 3,
-               {"cannot read the included section at http://127.0.0.1:9/section.xml: "}},
-    FlawedCase{"IncludeNotWeb", "<policy name=\"p\">\n<include id=\"local\" url=\"file:///etc/passwd\"/>\n</policy>\n", "", {},
-               3, {"cannot read the included section at file:///etc/passwd: only http and https addresses are read"}}),
+INSTANTIATE_TEST_SUITE_P(
+    Inputs, FlawedInputTest,
+    testing::Values(
+        FlawedCase{"HtmlPage",
+                   "<html><body><p>not a policy</p></body></html>",
+                   "",
+                   {},
+                   2,
+                   {"is not a policy: its root element is <html>, a policy's is <policy>"}},
+        FlawedCase{"MonitorDocument", monitorDocument(), "", {}, 2, {"its root element is <monitors>"}},
+        FlawedCase{
+            "ConfigurationDocument", "", example("agent-config.xml"), {}, 2, {"its root element is <agentConfig>"}},
+        FlawedCase{"EmptyFile", "", "", {}, 2, {unableToRead, "policy.xml: is empty\n"}},
+        FlawedCase{"WhiteSpace", " \n\t\n", "", {}, 2, {"policy.xml: holds only white space"}},
+        FlawedCase{"DevNull", "", "/dev/null", {}, 2, {unableToRead, "/dev/null: is empty\n"}},
+        FlawedCase{"Directory", "", "DIR", {}, 2, {unableToRead, ": is a directory\n"}},
+        FlawedCase{"BinaryData",
+                   std::string("\x7f"
+                               "ELF\x02\x01\x01\0\0<\xff\xfe>\x80",
+                               14),
+                   "",
+                   {},
+                   2,
+                   {unableToRead, "policy.xml: not XML: ", " at line 1, column "}},
+        FlawedCase{"OneLineCutShort",
+                   "<policy name=\"p\"><section name=\"s\" primary=\"true\"><true/>",
+                   "",
+                   {},
+                   2,
+                   {unableToRead, "not XML: "}},
+        FlawedCase{"LaterLineCutShort",
+                   "<policy name=\"p\">\n<section name=\"s\">\n</policy>",
+                   "",
+                   {},
+                   2,
+                   {"tvpolicy run: A configuration error has occurred at line: 3\n", "not XML: ", "at line 3, column"}},
+        FlawedCase{"NestedTooDeep",
+                   "<policy>\n<section name=\"s\">\n" + std::string(4000, ' ') +
+                       [] {
+                           std::string deep;
+                           for (int i = 0; i < 2000; ++i)
+                               deep += "<and>";
+                           return deep;
+                       }() +
+                       "</section></policy>",
+                   "",
+                   {},
+                   2,
+                   {"A configuration error has occurred at line: 3", "nested deeper than 1000 levels"}},
+        FlawedCase{"LargerThanTheCap",
+                   std::string(1100000, ' ') + "<policy/>",
+                   "",
+                   {"--max-size", "1"},
+                   2,
+                   {"larger than the limit of 1 MB (--max-size)"}},
+        FlawedCase{
+            "Missing", "", "/nonexistent/policy.xml", {}, 2, {"cannot read '/nonexistent/policy.xml': No such file"}},
+        FlawedCase{"TypoStrict",
+                   policyOf("<file fileName=\"passwd\" startPath=\"/etc\"/>\n"),
+                   "",
+                   {"--strict"},
+                   2,
+                   {"line 3: <file> in section \"s\" names no check kind", "--strict"}},
+        FlawedCase{"UnknownAttributeStrict",
+                   policyOf("<File filename=\"passwd\" startPath=\"/etc\"/>\n"),
+                   "",
+                   {"--strict"},
+                   2,
+                   {"line 3: attribute 'filename' of <File> in section \"s\" is not one that File reads"}},
+        FlawedCase{"NoSectionsStrict", "<policy name=\"p\"/>", "", {"--strict"}, 2, {"the policy holds no section"}},
+        FlawedCase{"IncludeUnreachable",
+                   "<policy name=\"p\">\n<include id=\"remote\" url=\"http://127.0.0.1:9/section.xml\"/>\n</policy>\n",
+                   "",
+                   {},
+                   3,
+                   {"cannot read the included section at http://127.0.0.1:9/section.xml: "}},
+        FlawedCase{"IncludeNotWeb",
+                   "<policy name=\"p\">\n<include id=\"local\" url=\"file:///etc/passwd\"/>\n</policy>\n",
+                   "",
+                   {},
+                   3,
+                   {"cannot read the included section at file:///etc/passwd: only http and https addresses are read"}}),
     [](const testing::TestParamInfo<FlawedCase>& testCase) { return testCase.param.title; });
 
 // Without --strict the run goes on, and every way of saying the result says what was not evaluated.
 TEST(RunTruth, UnevaluatedElementsAreNamedInEveryOutput)
 {
     testing_support::TempDir dir;
-    auto path = dir.write("typo.xml", policyOf("<file fileName=\"passwd\" startPath=\"/etc\"/>\n"
-                                               "<FirewallEnabled/>\n<File fileName=\"passwd\" startPath=\"/etc\" age=\"3\"/>\n"));
+    auto path = dir.write("typo.xml",
+                          policyOf("<file fileName=\"passwd\" startPath=\"/etc\"/>\n"
+                                   "<FirewallEnabled/>\n<File fileName=\"passwd\" startPath=\"/etc\" age=\"3\"/>\n"));
     auto text = runCli({"run", path.string(), "-q"});
     EXPECT_EQ(text.exitCode, 0) << text.err;
-    EXPECT_EQ(text.err,
-              "tvpolicy run: warning: line 3: <file> in section \"s\" names no check kind: it was passed over, not evaluated "
-              "(see tvpolicy tasks)\n"
-              "tvpolicy run: warning: line 4: <FirewallEnabled> in section \"s\" names no check kind: it was passed over, "
-              "not evaluated (see tvpolicy tasks)\n"
-              "tvpolicy run: warning: line 5: attribute 'age' of <File> in section \"s\" is not one that File reads: it "
-              "changes nothing (see tvpolicy tasks)\n");
+    EXPECT_EQ(
+        text.err,
+        "tvpolicy run: warning: line 3: <file> in section \"s\" names no check kind: it was passed over, not evaluated "
+        "(see tvpolicy tasks)\n"
+        "tvpolicy run: warning: line 4: <FirewallEnabled> in section \"s\" names no check kind: it was passed over, "
+        "not evaluated (see tvpolicy tasks)\n"
+        "tvpolicy run: warning: line 5: attribute 'age' of <File> in section \"s\" is not one that File reads: it "
+        "changes nothing (see tvpolicy tasks)\n");
     EXPECT_NE(text.out.find("PASS (1 passed, 0 failed, 0 warning, 0 skipped of 1 sections; 2 elements not evaluated; "
                             "1 attribute ignored)"),
               std::string::npos)
@@ -126,17 +179,23 @@ TEST(RunTruth, UnevaluatedElementsAreNamedInEveryOutput)
 TEST(RunTruth, FailedChecksSayWhatTheyLookedFor)
 {
     testing_support::TempDir dir;
-    auto path = dir.write("checks.xml", policyOf(
-        "<File fileName=\"no-such-file\" startPath=\"" + dir.path().string() + "\"/>\n"
-        "<VersionFromScript script=\"echo 2.4.1\" required=\"3.0\" delim=\".\" operation=\"gte\"/>\n"
-        "<not><ProcessExists procName=\"no-such-process-xyz\"/></not>\n"));
+    auto path =
+        dir.write("checks.xml",
+                  policyOf("<File fileName=\"no-such-file\" startPath=\"" + dir.path().string() +
+                           "\"/>\n"
+                           "<VersionFromScript script=\"echo 2.4.1\" required=\"3.0\" delim=\".\" operation=\"gte\"/>\n"
+                           "<not><ProcessExists procName=\"no-such-process-xyz\"/></not>\n"));
     auto text = runCli({"run", path.string(), "-q"});
     EXPECT_EQ(text.exitCode, 1);
-    for (const std::string& line :
-         {"    File fileName=\"no-such-file\" startPath=\"" + dir.path().string() + "\": failed - FileTask/File Not Found\n",
-          std::string("    VersionFromScript script=\"echo 2.4.1\" required=\"3.0\" delim=\".\" operation=\"gte\": failed - "
-                      "found \"2.4.1\", required gte \"3.0\"\n"),
-          std::string("    not: passed - notTask/Process Not Running\n      ProcessExists procName=\"no-such-process-xyz\"\n")}) {
+    for (
+        const std::string& line :
+        {"    File fileName=\"no-such-file\" startPath=\"" + dir.path().string() +
+             "\": failed - FileTask/File Not Found\n",
+         std::string(
+             "    VersionFromScript script=\"echo 2.4.1\" required=\"3.0\" delim=\".\" operation=\"gte\": failed - "
+             "found \"2.4.1\", required gte \"3.0\"\n"),
+         std::string(
+             "    not: passed - notTask/Process Not Running\n      ProcessExists procName=\"no-such-process-xyz\"\n")}) {
         EXPECT_NE(text.out.find(line), std::string::npos) << line << "\nin:\n" << text.out;
     }
     auto json = runCli({"run", path.string(), "--json", "-q"});
@@ -152,11 +211,14 @@ TEST(RunTruth, FailedChecksSayWhatTheyLookedFor)
 TEST(RunTruth, CompareAgreesWithAPolicysVersionCheck)
 {
     testing_support::TempDir dir;
-    const std::vector<std::vector<std::string>> pairs = {
-        {"1.10", "gte", "1.9"}, {"1.10", "gt", "1.9.0"}, {"10", "gte", "9"}, {"2.0", "eq", "2"}, {"1.2.3", "lt", "1.2.4"}};
+    const std::vector<std::vector<std::string>> pairs = {{"1.10", "gte", "1.9"},
+                                                         {"1.10", "gt", "1.9.0"},
+                                                         {"10", "gte", "9"},
+                                                         {"2.0", "eq", "2"},
+                                                         {"1.2.3", "lt", "1.2.4"}};
     for (const auto& pair : pairs) {
-        auto path = dir.write("v.xml", policyOf("<VersionFromScript script=\"echo " + pair[0] + "\" required=\"" + pair[2] +
-                                                "\" operation=\"" + pair[1] + "\"/>\n"));
+        auto path = dir.write("v.xml", policyOf("<VersionFromScript script=\"echo " + pair[0] + "\" required=\"" +
+                                                pair[2] + "\" operation=\"" + pair[1] + "\"/>\n"));
         auto policy = runCli({"run", path.string(), "-q"});
         auto compare = runCli({"compare", pair[0], pair[1], pair[2]});
         EXPECT_EQ(policy.exitCode, compare.exitCode) << pair[0] << " " << pair[1] << " " << pair[2];
@@ -167,15 +229,21 @@ TEST(RunTruth, CompareAgreesWithAPolicysVersionCheck)
 TEST(RunTruth, SwitchesAreShownAndAuditOnlyDoesNotDecide)
 {
     testing_support::TempDir dir;
-    auto path = dir.write("audit.xml", policyOf("<false/>\n",
-        "<auditOnly/>\n<renewip>false</renewip>\n<site>lab-3</site>\n<results><url>http://nac.test/r</url></results>\n"));
+    auto path = dir.write(
+        "audit.xml",
+        policyOf(
+            "<false/>\n",
+            "<auditOnly/>\n<renewip>false</renewip>\n<site>lab-3</site>\n<results><url>http://nac.test/r</url></results>\n"));
     auto text = runCli({"run", path.string(), "-q"});
     EXPECT_EQ(text.exitCode, 0) << text.err;
-    EXPECT_NE(text.out.find("Switches: audit only (the verdict is reported, not enforced: exit status 0); no IP renewal"),
-              std::string::npos) << text.out;
+    EXPECT_NE(
+        text.out.find("Switches: audit only (the verdict is reported, not enforced: exit status 0); no IP renewal"),
+        std::string::npos)
+        << text.out;
     EXPECT_NE(text.out.find("  results: http://nac.test/r\n"), std::string::npos);
     EXPECT_NE(text.out.find("Extra: site=lab-3\n"), std::string::npos);
-    EXPECT_NE(text.out.find(": FAIL (0 passed, 1 failed, 0 warning, 0 skipped of 1 sections) [audit only]\n"), std::string::npos);
+    EXPECT_NE(text.out.find(": FAIL (0 passed, 1 failed, 0 warning, 0 skipped of 1 sections) [audit only]\n"),
+              std::string::npos);
     EXPECT_EQ(runCli({"run", path.string(), "-q", "--enforce"}).exitCode, 1);
     auto json = nlohmann::json::parse(runCli({"run", path.string(), "-q", "--json"}).out);
     EXPECT_EQ(json["switches"]["auditOnly"], true);
@@ -232,15 +300,18 @@ TEST_P(WriteFailureTest, IsExitTwoWithAMessage)
     EXPECT_NE(result.err.find(GetParam().inErr), std::string::npos) << result.err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Outputs, WriteFailureTest, testing::Values(
-    WriteFailureCase{"FullDisk", ">/dev/full", "tvpolicy run: cannot write to standard output: No space left on device"},
-    WriteFailureCase{"ClosedStdout", ">&-", "tvpolicy run: cannot write to standard output: it is closed"},
-    WriteFailureCase{"ReportUnwritable", "--report /nonexistent/dir/r.html",
-                     "tvpolicy run: the HTML report was not saved: cannot create a file beside"},
-    WriteFailureCase{"JunitUnwritable", "--junit /nonexistent/dir/r.xml",
-                     "tvpolicy run: the JUnit report was not saved: cannot create a file beside"},
-    WriteFailureCase{"ReportOverOutput", "--report r.out --output ./r.out",
-                     "--output and --report name the same file"}),
+INSTANTIATE_TEST_SUITE_P(
+    Outputs, WriteFailureTest,
+    testing::Values(WriteFailureCase{"FullDisk", ">/dev/full",
+                                     "tvpolicy run: cannot write to standard output: No space left on device"},
+                    WriteFailureCase{"ClosedStdout", ">&-",
+                                     "tvpolicy run: cannot write to standard output: it is closed"},
+                    WriteFailureCase{"ReportUnwritable", "--report /nonexistent/dir/r.html",
+                                     "tvpolicy run: the HTML report was not saved: cannot create a file beside"},
+                    WriteFailureCase{"JunitUnwritable", "--junit /nonexistent/dir/r.xml",
+                                     "tvpolicy run: the JUnit report was not saved: cannot create a file beside"},
+                    WriteFailureCase{"ReportOverOutput", "--report r.out --output ./r.out",
+                                     "--output and --report name the same file"}),
     [](const testing::TestParamInfo<WriteFailureCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

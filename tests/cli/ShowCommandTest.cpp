@@ -28,22 +28,25 @@ TEST_P(ShowTest, PrintsTheDocumentsValues)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Documents, ShowTest, testing::Values(
-    ShowCase{{"show", "config", examples + "agent-config.xml"}, 0,
-             {"loginUrl: https://nac.example.net/agent/login", "showFinished: false", "showIntro: true",
-              "sjLoginMessage: Please Re-Enter Your Credentials", "fields[1].type: PASSWORD",
-              "fields[2].type: SELECT", "fields[2].options[2].value: guest"}},
-    ShowCase{{"show", "status", examples + "status-wpa2-enterprise.xml"}, 0,
-             {"status: NEEDS_SWIFTJOIN", "profile.securityType: WPA2_ENTERPRISE", "profile.EAPConfig: PEAP",
-              "profile.configCipher: AES", "profile.validateServerCert: true"}},
-    // A document that cannot be read, or one of another kind, is refused: defaults would mislead.
-    ShowCase{{"show", "config", "/dev/null"}, 2, {}},
-    ShowCase{{"show", "status", "/dev/null"}, 2, {}},
-    ShowCase{{"show", "profile", "/dev/null"}, 2, {}},
-    ShowCase{{"show", "config", examples + "monitors.xml"}, 2, {}},
-    ShowCase{{"show", "status", examples + "compliant.xml"}, 2, {}},
-    ShowCase{{"show", "config", "/no/such/file.xml"}, 2, {}},
-    ShowCase{{"show", "policy", examples + "agent-config.xml"}, 2, {}}));
+INSTANTIATE_TEST_SUITE_P(
+    Documents, ShowTest,
+    testing::Values(ShowCase{{"show", "config", examples + "agent-config.xml"},
+                             0,
+                             {"loginUrl: https://nac.example.net/agent/login", "showFinished: false", "showIntro: true",
+                              "sjLoginMessage: Please Re-Enter Your Credentials", "fields[1].type: PASSWORD",
+                              "fields[2].type: SELECT", "fields[2].options[2].value: guest"}},
+                    ShowCase{
+                        {"show", "status", examples + "status-wpa2-enterprise.xml"},
+                        0,
+                        {"status: NEEDS_SWIFTJOIN", "profile.securityType: WPA2_ENTERPRISE", "profile.EAPConfig: PEAP",
+                         "profile.configCipher: AES", "profile.validateServerCert: true"}},
+                    // A document that cannot be read, or one of another kind, is refused: defaults would mislead.
+                    ShowCase{{"show", "config", "/dev/null"}, 2, {}}, ShowCase{{"show", "status", "/dev/null"}, 2, {}},
+                    ShowCase{{"show", "profile", "/dev/null"}, 2, {}},
+                    ShowCase{{"show", "config", examples + "monitors.xml"}, 2, {}},
+                    ShowCase{{"show", "status", examples + "compliant.xml"}, 2, {}},
+                    ShowCase{{"show", "config", "/no/such/file.xml"}, 2, {}},
+                    ShowCase{{"show", "policy", examples + "agent-config.xml"}, 2, {}}));
 
 struct RefusedCase {
     std::string title;
@@ -63,14 +66,18 @@ TEST_P(ShowRefusesTest, SaysWhyWithStatusTwo)
     EXPECT_NE(result.err.find(GetParam().inErr), std::string::npos) << result.err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Documents, ShowRefusesTest, testing::Values(
-    RefusedCase{"Empty", "config", "", "d.xml: is empty"},
-    RefusedCase{"Binary", "status", std::string("\0\x01\x02<\xff>", 6), "d.xml: not XML: "},
-    RefusedCase{"CutShort", "config", "<agentConfig xmlns=\"urn:torvane:agent:1\"><loginUrl>x", "not XML: "},
-    RefusedCase{"OtherKind", "config", "<html><body/></html>",
-                "is not an agent document: no element is in the namespace urn:torvane:agent:1 (its root element is <html>)"},
-    RefusedCase{"OtherNamespace", "status", "<agentStatus xmlns=\"urn:other\"><status>SUCCESS</status></agentStatus>",
-                "is not an agent document"}),
+INSTANTIATE_TEST_SUITE_P(
+    Documents, ShowRefusesTest,
+    testing::Values(
+        RefusedCase{"Empty", "config", "", "d.xml: is empty"},
+        RefusedCase{"Binary", "status", std::string("\0\x01\x02<\xff>", 6), "d.xml: not XML: "},
+        RefusedCase{"CutShort", "config", "<agentConfig xmlns=\"urn:torvane:agent:1\"><loginUrl>x", "not XML: "},
+        RefusedCase{
+            "OtherKind", "config", "<html><body/></html>",
+            "is not an agent document: no element is in the namespace urn:torvane:agent:1 (its root element is <html>)"},
+        RefusedCase{"OtherNamespace", "status",
+                    "<agentStatus xmlns=\"urn:other\"><status>SUCCESS</status></agentStatus>",
+                    "is not an agent document"}),
     [](const testing::TestParamInfo<RefusedCase>& testCase) { return testCase.param.title; });
 
 // "-" reads the document from standard input.
@@ -85,8 +92,9 @@ TEST(ShowCommand, ReadsStandardInput)
 TEST(ShowCommand, JsonIsOneCleanObjectAndHidesPassPhrases)
 {
     testing_support::TempDir dir;
-    auto file = dir.write("profile.xml", "<profile xmlns='urn:torvane:agent:1'><SSID>lab</SSID>"
-                                         "<password>s3cret</password></profile>");
+    auto file = dir.write("profile.xml",
+                          "<profile xmlns='urn:torvane:agent:1'><SSID>lab</SSID>"
+                          "<password>s3cret</password></profile>");
     auto hidden = runCli({"-v", "show", "profile", file.string(), "--json"});
     EXPECT_EQ(hidden.exitCode, 0);
     auto json = nlohmann::json::parse(hidden.out);  // the library's log goes to standard error only

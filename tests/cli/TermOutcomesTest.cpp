@@ -59,12 +59,16 @@ TEST_P(TermOutcomesTest, EachTermSaysHowItWent)
               std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(Composites, TermOutcomesTest, testing::Values(
-    TermCase{"AndStopsAtTheFirstFailure", "<and><true/><false/><true/></and>", "-+-.", "3 terms: 1 passed, 1 failed, 1 not run"},
-    TermCase{"OrStopsAtTheFirstPass", "<or><false/><true/><false/></or>", "+-+.", "3 terms: 1 passed, 1 failed, 1 not run"},
-    TermCase{"OrAllFail", "<or><false/><false/></or>", "---", "2 terms: 2 failed"},
-    TermCase{"NotOfAnAnd", "<not><and><false/><true/></and></not>", "+--.", "1 term: 1 failed"},
-    TermCase{"NestedInAnUnrunTerm", "<and><false/><or><true/></or></and>", "--..", "2 terms: 1 failed, 1 not run"}),
-    [](const testing::TestParamInfo<TermCase>& testCase) { return testCase.param.title; });
+INSTANTIATE_TEST_SUITE_P(Composites, TermOutcomesTest,
+                         testing::Values(TermCase{"AndStopsAtTheFirstFailure", "<and><true/><false/><true/></and>",
+                                                  "-+-.", "3 terms: 1 passed, 1 failed, 1 not run"},
+                                         TermCase{"OrStopsAtTheFirstPass", "<or><false/><true/><false/></or>", "+-+.",
+                                                  "3 terms: 1 passed, 1 failed, 1 not run"},
+                                         TermCase{"OrAllFail", "<or><false/><false/></or>", "---", "2 terms: 2 failed"},
+                                         TermCase{"NotOfAnAnd", "<not><and><false/><true/></and></not>", "+--.",
+                                                  "1 term: 1 failed"},
+                                         TermCase{"NestedInAnUnrunTerm", "<and><false/><or><true/></or></and>", "--..",
+                                                  "2 terms: 1 failed, 1 not run"}),
+                         [](const testing::TestParamInfo<TermCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

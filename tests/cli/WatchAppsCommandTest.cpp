@@ -35,8 +35,9 @@ protected:
 
     std::unique_ptr<ChildProcess> watch(const std::vector<std::string>& args)
     {
-        std::vector<std::string> argv = {"ip", "netns", "exec", ns.name(), "env",
-                                         "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus", TVPOLICY_CLI, "watch"};
+        std::vector<std::string> argv = {"ip",         "netns", "exec",
+                                         ns.name(),    "env",   "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus",
+                                         TVPOLICY_CLI, "watch"};
         argv.insert(argv.end(), args.begin(), args.end());
         return std::make_unique<ChildProcess>(argv, true);
     }

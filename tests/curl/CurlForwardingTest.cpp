@@ -26,10 +26,7 @@ FakeCurlCall lastCall()
     return call;
 }
 
-std::size_t onData(char*, std::size_t size, std::size_t count, void*)
-{
-    return size * count;
-}
+std::size_t onData(char*, std::size_t size, std::size_t count, void*) { return size * count; }
 
 CURL* const handle = reinterpret_cast<CURL*>(std::uintptr_t{0x1000});
 

@@ -18,10 +18,7 @@ using AnyFunction = void (*)();
 
 extern "C" {
 
-FakeCurlCall* fake_curl_last_call()
-{
-    return &last;
-}
+FakeCurlCall* fake_curl_last_call() { return &last; }
 
 CURLcode fakeSetopt(CURL* handle, std::underlying_type_t<CURLoption> option, ...) __asm__("curl_easy_setopt");
 CURLcode fakeGetinfo(CURL* handle, std::underlying_type_t<CURLINFO> info, ...) __asm__("curl_easy_getinfo");
@@ -60,9 +57,6 @@ CURLcode fakeGetinfo(CURL* handle, std::underlying_type_t<CURLINFO> info, ...)
     return CURLE_OK;
 }
 
-CURLcode curl_global_init(long)
-{
-    return CURLE_OK;
-}
+CURLcode curl_global_init(long) { return CURLE_OK; }
 
 }  // extern "C"

@@ -32,7 +32,8 @@ TEST(FileSearch, FindsWhatFindFinds)
     std::sort(ours.begin(), ours.end());
 
     std::vector<std::string> theirs;
-    std::unique_ptr<FILE, int (*)(FILE*)> pipe(::popen("find /usr/lib -name os-release ! -type d 2>/dev/null", "r"), ::pclose);
+    std::unique_ptr<FILE, int (*)(FILE*)> pipe(::popen("find /usr/lib -name os-release ! -type d 2>/dev/null", "r"),
+                                               ::pclose);
     ASSERT_NE(pipe, nullptr);
     char line[4096];
     while (std::fgets(line, sizeof line, pipe.get()) != nullptr) {

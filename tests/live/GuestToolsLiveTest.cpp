@@ -44,13 +44,15 @@ TEST(GuestToolsLive, StandInToolsGiveTheGuestsAdapters)
     }
     testing_support::MappedHost mapped({{"/usr/bin/VBoxManage", "bin/VBoxManage"}, {"/usr/bin/vmrun", "bin/vmrun"}});
     const std::filesystem::path& dir = mapped.tmp.path();
-    std::string vmx = mapped.tmp.write("vms/guest one.vmx",
-        "ethernet0.present = \"TRUE\"\n"
-        "ethernet0.addressType = \"generated\"\n"
-        "ethernet0.generatedAddress = \"00:0c:29:aa:bb:cc\"\n").string();
+    std::string vmx = mapped.tmp
+                          .write("vms/guest one.vmx",
+                                 "ethernet0.present = \"TRUE\"\n"
+                                 "ethernet0.addressType = \"generated\"\n"
+                                 "ethernet0.generatedAddress = \"00:0c:29:aa:bb:cc\"\n")
+                          .string();
     executable(mapped.tmp.write("bin/VBoxManage", vboxManage));
     executable(mapped.tmp.write("bin/vmrun",
-        "#!/bin/sh\n[ \"$2\" = ws ] && printf 'Total running VMs: 1\\n%s\\n' '" + vmx + "'\n"));
+                                "#!/bin/sh\n[ \"$2\" = ws ] && printf 'Total running VMs: 1\\n%s\\n' '" + vmx + "'\n"));
     // Processes whose short names are the tools' service names.
     std::filesystem::copy_file("/bin/sleep", dir / "VBoxSVC");
     std::filesystem::copy_file("/bin/sleep", dir / "vmware-vmx");

@@ -10,14 +10,14 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <thread>
-#include <sys/stat.h>
-#include <sys/wait.h>
 
 #include "support/ChildProcess.h"
 #include "support/RunCli.h"
@@ -57,10 +57,11 @@ TEST(LinuxHostProbeLive, HardwareIdentityIsWhatDmiShows)
 {
     LinuxHostProbe probe;
     auto identity = probe.hardwareIdentity();
-    const std::pair<const char*, std::optional<std::string>*> fields[] = {
-        {"sys_vendor", &identity.manufacturer}, {"product_name", &identity.productName},
-        {"product_version", &identity.version}, {"product_uuid", &identity.uuid},
-        {"product_serial", &identity.serialNumber}};
+    const std::pair<const char*, std::optional<std::string>*> fields[] = {{"sys_vendor", &identity.manufacturer},
+                                                                          {"product_name", &identity.productName},
+                                                                          {"product_version", &identity.version},
+                                                                          {"product_uuid", &identity.uuid},
+                                                                          {"product_serial", &identity.serialNumber}};
     for (const auto& [file, value] : fields) {
         auto result = runProgram({"sh", "-c", std::string("cat /sys/class/dmi/id/") + file + " 2>/dev/null"});
         EXPECT_EQ(value->has_value(), result.exitCode == 0) << file;
@@ -98,8 +99,10 @@ TEST(LinuxHostProbeLive, OpenURLHandsTheURLToXdgOpenAsOneArgument)
 {
     TempDir dir;
     auto received = dir.path() / "received";
-    auto opener = dir.write("bin/xdg-open", "#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > '" + received.string() + ".part'\n"
-                                            "mv '" + received.string() + ".part' '" + received.string() + "'\n");
+    auto opener = dir.write("bin/xdg-open", "#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > '" + received.string() +
+                                                ".part'\n"
+                                                "mv '" +
+                                                received.string() + ".part' '" + received.string() + "'\n");
     std::filesystem::permissions(opener, std::filesystem::perms::owner_all);
     PathPrefix path(opener.parent_path());
 
@@ -209,13 +212,12 @@ TEST_P(CraftedFlushTest, FlushesTheResolverThatRuns)
     EXPECT_EQ(LinuxHostProbe(root.path().string()).dnsFlushCommand(), GetParam().command);
 }
 
-INSTANTIATE_TEST_SUITE_P(Resolvers, CraftedFlushTest, testing::Values(
-    FlushCase{{"systemd", "sshd"}, ""},
-    FlushCase{{"systemd", "nscd"}, "nscd -i hosts"},
-    FlushCase{{"systemd-resolve"}, "resolvectl flush-caches"},
-    FlushCase{{"nscd", "systemd-resolve"}, "resolvectl flush-caches"},
-    FlushCase{{"systemd-resolved"}, ""},
-    FlushCase{{"nscd-helper"}, ""}));
+INSTANTIATE_TEST_SUITE_P(Resolvers, CraftedFlushTest,
+                         testing::Values(FlushCase{{"systemd", "sshd"}, ""},
+                                         FlushCase{{"systemd", "nscd"}, "nscd -i hosts"},
+                                         FlushCase{{"systemd-resolve"}, "resolvectl flush-caches"},
+                                         FlushCase{{"nscd", "systemd-resolve"}, "resolvectl flush-caches"},
+                                         FlushCase{{"systemd-resolved"}, ""}, FlushCase{{"nscd-helper"}, ""}));
 
 TEST_F(CraftedRootTest, OsReleaseFallsBackToUsrLib)
 {

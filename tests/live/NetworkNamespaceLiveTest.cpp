@@ -34,11 +34,14 @@ protected:
             GTEST_SKIP() << ns.skipReason();
         }
         ASSERT_TRUE(ns.exec("sysctl -qw net.ipv6.conf.default.addr_gen_mode=1 && ip link set lo up"));
-        ASSERT_TRUE(ns.exec("ip link add va address 02:00:00:00:0a:01 type veth peer name vb address 02:00:00:00:0b:01"));
-        ASSERT_TRUE(ns.exec("ip link add vc address 02:00:00:00:0c:01 type veth peer name vd address 02:00:00:00:0d:01"));
-        ASSERT_TRUE(ns.exec("ip addr add 10.77.0.1/24 dev va && ip addr add 10.77.0.9/24 dev va && "
-                            "ip addr add fd77::1/64 dev va nodad && ip link set va up && ip link set vb up && "
-                            "ip link set vd up"));
+        ASSERT_TRUE(
+            ns.exec("ip link add va address 02:00:00:00:0a:01 type veth peer name vb address 02:00:00:00:0b:01"));
+        ASSERT_TRUE(
+            ns.exec("ip link add vc address 02:00:00:00:0c:01 type veth peer name vd address 02:00:00:00:0d:01"));
+        ASSERT_TRUE(
+            ns.exec("ip addr add 10.77.0.1/24 dev va && ip addr add 10.77.0.9/24 dev va && "
+                    "ip addr add fd77::1/64 dev va nodad && ip link set va up && ip link set vb up && "
+                    "ip link set vd up"));
         holder = std::make_unique<testing_support::ChildProcess>(
             std::vector<std::string>{"ip", "netns", "exec", ns.name(), "/usr/bin/python3", "-c", tunHolder});
         ASSERT_TRUE(ns.waitFor("ip link show tun7")) << "the tun holder did not start";
@@ -49,8 +52,9 @@ protected:
 
     testing_support::CliResult cli(const std::vector<std::string>& args)
     {
-        std::vector<std::string> argv = {"ip", "netns", "exec", ns.name(), "env",
-                                         "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus", TVPOLICY_CLI};
+        std::vector<std::string> argv = {"ip",        "netns", "exec",
+                                         ns.name(),   "env",   "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus",
+                                         TVPOLICY_CLI};
         argv.insert(argv.end(), args.begin(), args.end());
         return testing_support::runProgram(argv);
     }
@@ -61,9 +65,10 @@ protected:
 
 std::string fragment(const std::string& mac, const std::string& name, const std::string& addresses, bool up)
 {
-    return "<interface><mac><![CDATA[" + mac + "]]></mac>" + addresses + "<desc></desc><medium><![CDATA[Wired]]></medium>" +
-           "<name><![CDATA[" + name + "]]></name><suffix><![CDATA[ns.example]]></suffix><operstatus>" +
-           (up ? "UP" : "DOWN") + "</operstatus></interface>";
+    return "<interface><mac><![CDATA[" + mac + "]]></mac>" + addresses +
+           "<desc></desc><medium><![CDATA[Wired]]></medium>" + "<name><![CDATA[" + name +
+           "]]></name><suffix><![CDATA[ns.example]]></suffix><operstatus>" + (up ? "UP" : "DOWN") +
+           "</operstatus></interface>";
 }
 
 TEST_F(NamespaceInterfaces, ReportHoldsTheConfiguredPortsAndLeavesTheTunnelOut)
@@ -136,8 +141,9 @@ TEST_F(NamespaceInterfaces, QueryTextAddressesAndSearchDomainsInProcess)
 TEST_F(NamespaceInterfaces, TunnelsNobodyHoldsAreNotRunningAndLeaveTheInventory)
 {
     // tun8 persists without a holder: up, point-to-point, but never running.
-    ASSERT_TRUE(ns.exec("ip tuntap add dev tun8 mode tun && ip addr add 10.99.0.1 peer 10.99.0.2 dev tun8 && "
-                        "ip link set tun8 up"));
+    ASSERT_TRUE(
+        ns.exec("ip tuntap add dev tun8 mode tun && ip addr add 10.99.0.1 peer 10.99.0.2 dev tun8 && "
+                "ip link set tun8 up"));
     holder.reset();
     ASSERT_TRUE(ns.waitFor("! ip link show tun7"));
     std::string keys = ns.inChild([] {

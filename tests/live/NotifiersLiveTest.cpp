@@ -35,7 +35,10 @@ using Strings = std::vector<std::string>;
 
 bool run(const std::string& command) { return std::system((command + " >/dev/null 2>&1").c_str()) == 0; }
 
-bool holds(const Strings& list, const std::string& item) { return std::find(list.begin(), list.end(), item) != list.end(); }
+bool holds(const Strings& list, const std::string& item)
+{
+    return std::find(list.begin(), list.end(), item) != list.end();
+}
 
 // What a notifier fired, for a test thread to wait on.
 class Fired {
@@ -76,9 +79,10 @@ protected:
         if (!ns.valid()) {
             GTEST_SKIP() << ns.skipReason();
         }
-        ASSERT_TRUE(ns.exec("ip link set lo up && "
-                            "ip link add va address 02:00:00:00:0a:01 type veth peer name vb address 02:00:00:00:0b:01 && "
-                            "ip link set va up && ip link set vb up"));
+        ASSERT_TRUE(
+            ns.exec("ip link set lo up && "
+                    "ip link add va address 02:00:00:00:0a:01 type veth peer name vb address 02:00:00:00:0b:01 && "
+                    "ip link set va up && ip link set vb up"));
     }
 
     NetNamespace ns;
@@ -97,7 +101,8 @@ TEST_F(NotifierNamespace, AddressesAddedAndRemovedFireWithTheNewList)
         bool added = false;
         for (int i = 0; i < 50 && !added; ++i) {
             run("ip addr add 10.66.0.1/24 dev va");
-            added = fired.waitFor(0, [](const Strings& l) { return holds(l, "10.66.0.1"); }, std::chrono::milliseconds(200));
+            added = fired.waitFor(
+                0, [](const Strings& l) { return holds(l, "10.66.0.1"); }, std::chrono::milliseconds(200));
             if (!added) {
                 run("ip addr del 10.66.0.1/24 dev va");
             }
@@ -110,7 +115,8 @@ TEST_F(NotifierNamespace, AddressesAddedAndRemovedFireWithTheNewList)
         seen = fired.count();
         run("ip addr del 10.66.0.1/24 dev va");
         out << "v4 removed "
-            << fired.waitFor(seen, [](const Strings& l) { return !holds(l, "10.66.0.1") && holds(l, "fd66::1"); }) << "\n";
+            << fired.waitFor(seen, [](const Strings& l) { return !holds(l, "10.66.0.1") && holds(l, "fd66::1"); })
+            << "\n";
         seen = fired.count();
         run("ip addr del fd66::1/64 dev va");
         out << "v6 removed " << fired.waitFor(seen, [](const Strings& l) { return !holds(l, "fd66::1"); }) << "\n";
@@ -218,7 +224,8 @@ TEST_F(NotifierNamespace, StopEndsAPollingMacNotifierWithinASecond)
         auto running = std::async(std::launch::async, [&notifier] { notifier.run(); });
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
         notifier.stop();
-        return std::string(running.wait_for(std::chrono::seconds(1)) == std::future_status::ready ? "stopped" : "still running");
+        return std::string(running.wait_for(std::chrono::seconds(1)) == std::future_status::ready ? "stopped"
+                                                                                                  : "still running");
     });
     EXPECT_EQ(report, "stopped");
 }
@@ -240,8 +247,9 @@ TEST(ApplicationInventoryLive, DpkgDatabaseAgreesWithDpkgQuery)
 TEST(ApplicationInventoryLive, RpmIsAskedWhenThereIsNoDpkgDatabase)
 {
     testing_support::TempDir root;
-    std::filesystem::path rpm = root.write("usr/bin/rpm", "#!/bin/sh\n[ \"$1\" = -qa ] || exit 1\n"
-                                                          "printf 'bash\\t5.2.15-3.fc39\\nkernel\\t1:6.5.6-300.fc39\\n'\n");
+    std::filesystem::path rpm = root.write("usr/bin/rpm",
+                                           "#!/bin/sh\n[ \"$1\" = -qa ] || exit 1\n"
+                                           "printf 'bash\\t5.2.15-3.fc39\\nkernel\\t1:6.5.6-300.fc39\\n'\n");
     std::filesystem::permissions(rpm, std::filesystem::perms::owner_all);
     auto listing = tvpolicy::LinuxHostProbe(root.path().string()).applicationListing();
     EXPECT_EQ(listing.format, tvpolicy::HostProbe::ApplicationListing::Format::RpmQuery);

@@ -12,8 +12,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "checks/PostureTask.h"
 #include <tvpolicy/base/OwnedFd.h>
+#include "checks/PostureTask.h"
 #include "support/DpkgQuery.h"
 #include "support/NetNamespace.h"
 #include "support/RunCli.h"
@@ -50,17 +50,50 @@ bool dpkgSays(const std::string& a, const char* relation, const std::string& b)
 
 // Pairs whose order dpkg decides: epochs, tildes, revisions, letters and odd signs.
 const std::pair<const char*, const char*> versionPairs[] = {
-    {"1.0", "1.0"},           {"1.0", "1.1"},           {"1.10", "1.9"},          {"1.0", "1.0.0"},
-    {"1:1.0", "2.0"},         {"1:1.0", "1:1.0"},       {"0:1.0", "1.0"},         {"2:0.1", "1:9.9"},
-    {"1.0~rc1", "1.0"},       {"1.0~rc1", "1.0~rc2"},   {"1.0~~", "1.0~"},        {"1.0~", "1.0"},
-    {"1.0~rc1-1", "1.0-1"},   {"1.0-1", "1.0-2"},       {"1.0-10", "1.0-9"},      {"1.0-1", "1.0"},
-    {"1.0-0", "1.0"},         {"1.0-1.1", "1.0-1"},     {"1.0-1~bpo1", "1.0-1"},  {"1.0-1+deb12u1", "1.0-1"},
-    {"1.0a", "1.0"},          {"1.0a", "1.0b"},         {"1.0a", "1.0.1"},        {"1.0+dfsg", "1.0"},
-    {"1.0+dfsg", "1.0.1"},    {"1.0.", "1.0"},          {"1.0-a", "1.0-1"},       {"9.2p1", "9.2"},
-    {"9.2p1-2", "9.2p1-2+deb12u3"}, {"1:9.2p1-2", "1:9.3"}, {"2.36-9+deb12u4", "2.36-9"}, {"007", "7"},
-    {"1.001", "1.1"},         {"1.2-3-4", "1.2-3"},     {"1:2:3", "1:2"},         {"1.0+b1", "1.0"},
-    {"1.0.0+git20230101", "1.0.0"}, {"3.0~a1", "3.0~b1"}, {"1.0-1ubuntu1", "1.0-1"}, {"10:1", "9:2"},
-    {"1.0Z", "1.0a"},         {"1.0.a", "1.0.A"},       {"0.17+2.4-2", "0.17-2"}, {"1.2.3", "1.2.3~"},
+    {"1.0", "1.0"},
+    {"1.0", "1.1"},
+    {"1.10", "1.9"},
+    {"1.0", "1.0.0"},
+    {"1:1.0", "2.0"},
+    {"1:1.0", "1:1.0"},
+    {"0:1.0", "1.0"},
+    {"2:0.1", "1:9.9"},
+    {"1.0~rc1", "1.0"},
+    {"1.0~rc1", "1.0~rc2"},
+    {"1.0~~", "1.0~"},
+    {"1.0~", "1.0"},
+    {"1.0~rc1-1", "1.0-1"},
+    {"1.0-1", "1.0-2"},
+    {"1.0-10", "1.0-9"},
+    {"1.0-1", "1.0"},
+    {"1.0-0", "1.0"},
+    {"1.0-1.1", "1.0-1"},
+    {"1.0-1~bpo1", "1.0-1"},
+    {"1.0-1+deb12u1", "1.0-1"},
+    {"1.0a", "1.0"},
+    {"1.0a", "1.0b"},
+    {"1.0a", "1.0.1"},
+    {"1.0+dfsg", "1.0"},
+    {"1.0+dfsg", "1.0.1"},
+    {"1.0.", "1.0"},
+    {"1.0-a", "1.0-1"},
+    {"9.2p1", "9.2"},
+    {"9.2p1-2", "9.2p1-2+deb12u3"},
+    {"1:9.2p1-2", "1:9.3"},
+    {"2.36-9+deb12u4", "2.36-9"},
+    {"007", "7"},
+    {"1.001", "1.1"},
+    {"1.2-3-4", "1.2-3"},
+    {"1:2:3", "1:2"},
+    {"1.0+b1", "1.0"},
+    {"1.0.0+git20230101", "1.0.0"},
+    {"3.0~a1", "3.0~b1"},
+    {"1.0-1ubuntu1", "1.0-1"},
+    {"10:1", "9:2"},
+    {"1.0Z", "1.0a"},
+    {"1.0.a", "1.0.A"},
+    {"0.17+2.4-2", "0.17-2"},
+    {"1.2.3", "1.2.3~"},
 };
 
 TEST(DpkgVersionOrder, EveryPairAgreesWithDpkgThroughPackageInstalled)
@@ -76,10 +109,14 @@ TEST(DpkgVersionOrder, EveryPairAgreesWithDpkgThroughPackageInstalled)
         host.applications.text =
             std::string("Package: pkg\nStatus: install ok installed\nArchitecture: all\nVersion: ") + installed + "\n";
         for (const char* operation : {"lt", "lte", "eq", "gte", "gt"}) {
-            std::string relation = std::string(operation) == "lte" ? "le" : std::string(operation) == "gte" ? "ge" : operation;
+            std::string relation = std::string(operation) == "lte"   ? "le"
+                                   : std::string(operation) == "gte" ? "ge"
+                                                                     : operation;
             bool dpkg = dpkgSays(installed, relation.c_str(), required);
-            Outcome outcome = perform(createPackageInstalled, {{"name", "pkg"}, {"required", required}, {"operation", operation}});
-            EXPECT_EQ(outcome.passed, dpkg) << installed << " " << operation << " " << required << ": " << outcome.message;
+            Outcome outcome =
+                perform(createPackageInstalled, {{"name", "pkg"}, {"required", required}, {"operation", operation}});
+            EXPECT_EQ(outcome.passed, dpkg)
+                << installed << " " << operation << " " << required << ": " << outcome.message;
         }
     }
 }
@@ -99,7 +136,8 @@ TEST(DpkgDatabase, AgreesWithDpkgQuery)
         Outcome same = perform(createPackageInstalled, {{"name", name}, {"required", version}, {"operation", "eq"}});
         EXPECT_TRUE(same.passed) << name << " " << version << ": " << same.message;
         EXPECT_NE(same.message.find(version), std::string::npos) << same.message;
-        Outcome newer = perform(createPackageInstalled, {{"name", name}, {"required", version + "+1"}, {"operation", "gte"}});
+        Outcome newer =
+            perform(createPackageInstalled, {{"name", name}, {"required", version + "+1"}, {"operation", "gte"}});
         EXPECT_FALSE(newer.passed) << name << ": " << newer.message;
     }
     std::string absent = "tvpolicy-no-such-package";
@@ -194,9 +232,11 @@ TEST_F(PostureNamespace, FirewallFromRealRulesets)
     } rulesets[] = {
         {"drop policy", "table inet filter {\n chain input { type filter hook input priority 0; policy drop; }\n}\n",
          "P input chain inet filter input drops (policy drop)"},
-        {"reject rule", "table ip filter {\n chain INPUT { type filter hook input priority 0; tcp dport 23 reject; }\n}\n",
+        {"reject rule",
+         "table ip filter {\n chain INPUT { type filter hook input priority 0; tcp dport 23 reject; }\n}\n",
          "P input chain ip filter INPUT drops or rejects (a rule)"},
-        {"accept only", "table ip6 filter {\n chain input { type filter hook input priority 0; policy accept; ct state established accept; }\n}\n",
+        {"accept only",
+         "table ip6 filter {\n chain input { type filter hook input priority 0; policy accept; ct state established accept; }\n}\n",
          "F 1 input chain(s), none drops or rejects"},
         {"no table", "", "F no packet filter chain on the input hook"},
         {"output only", "table inet filter {\n chain output { type filter hook output priority 0; policy drop; }\n}\n",
@@ -218,7 +258,8 @@ TEST_F(PostureNamespace, KernelParameterOfTheNamespace)
     std::string result = ns.inChild([] {
         return verdict(perform(createKernelParameter, {{"name", "net.ipv4.ip_forward"}, {"value", "1"}})) + "\n" +
                verdict(perform(createKernelParameter, {{"name", "net.ipv4.no_such"}, {"value", "1"}})) + "\n" +
-               verdict(perform(createKernelParameter, {{"name", "net.ipv4.ip_local_port_range"}, {"value", "32768 60999"}}));
+               verdict(perform(createKernelParameter,
+                               {{"name", "net.ipv4.ip_local_port_range"}, {"value", "32768 60999"}}));
     });
     EXPECT_EQ(result,
               "P net.ipv4.ip_forward = 1\n"
@@ -238,7 +279,8 @@ TEST_F(PostureNamespace, HardenedPolicyPassesUntilTheFirewallTableGoes)
                                    "  </section>\n"
                                    "</policy>\n")
                              .string();
-    loadRuleset("table inet filter {\n chain input { type filter hook input priority 0; policy drop; iif lo accept; }\n}\n");
+    loadRuleset(
+        "table inet filter {\n chain input { type filter hook input priority 0; policy drop; iif lo accept; }\n}\n");
     auto run = [&] {
         return ns.inChild([&] {
             tvpolicy::OwnedFd listener(openSocket(AF_INET, SOCK_STREAM, 8022));

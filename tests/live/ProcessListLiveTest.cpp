@@ -8,13 +8,13 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
 #include <algorithm>
 #include <atomic>
 #include <filesystem>
 #include <iostream>
-#include <thread>
 #include <memory>
-#include <unistd.h>
+#include <thread>
 
 #include "support/CaptureStream.h"
 #include "support/ChildProcess.h"
@@ -133,10 +133,10 @@ TEST_F(ProcessListLiveTest, NamedSearchAnswersAsTheWholeTable)
         bool running;
     };
     const Case cases[] = {
-        {name, true},                       // the executable's file name, behind the link
-        {linkName.substr(0, 15), true},     // the short name, taken from the link
-        {linkName, false},                  // neither: the link is not the executable
-        {"d" + name, true},                 // a deleted executable still has its name
+        {name, true},                    // the executable's file name, behind the link
+        {linkName.substr(0, 15), true},  // the short name, taken from the link
+        {linkName, false},               // neither: the link is not the executable
+        {"d" + name, true},              // a deleted executable still has its name
         {("d" + name).substr(0, 15), true},
         {"tvp-no-such-prc", false},
         {"", false},
@@ -146,8 +146,8 @@ TEST_F(ProcessListLiveTest, NamedSearchAnswersAsTheWholeTable)
     for (const Case& c : cases) {
         EXPECT_EQ(host.runsProcessNamed(c.query), c.running) << c.query;
         bool inTable = std::any_of(table.begin(), table.end(), [&](const auto& p) {
-            return p.executablePath && (p.shortName == c.query ||
-                                        std::filesystem::path(*p.executablePath).filename() == c.query);
+            return p.executablePath &&
+                   (p.shortName == c.query || std::filesystem::path(*p.executablePath).filename() == c.query);
         });
         EXPECT_EQ(inTable, c.running) << "the whole table, " << c.query;
     }

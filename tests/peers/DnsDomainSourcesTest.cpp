@@ -57,8 +57,8 @@ public:
     void startResolved(const std::string& signature, const Strings& domains)
     {
         std::string path = host.tmp.write("resolved.py", resolvedTemplate).string();
-        ASSERT_TRUE(bus.startMock(path, {resolve1, resolve1Path, "org.freedesktop.DBus.Properties", "Get", "ss",
-                                         resolve1Manager, "Domains"}))
+        ASSERT_TRUE(bus.startMock(
+            path, {resolve1, resolve1Path, "org.freedesktop.DBus.Properties", "Get", "ss", resolve1Manager, "Domains"}))
             << "the resolved mock did not come up";
         Strings args = {"set-property", resolve1, resolve1Path, resolve1Manager, "Domains", signature};
         args.insert(args.end(), domains.begin(), domains.end());
@@ -85,7 +85,7 @@ public:
             nm.control(nmPath, "AddObject", "ssa{sv}a(ssss)", object);
         }
         nm.control(active, "AddProperty", "ssv",
-                        {"org.freedesktop.NetworkManager.Connection.Active", "Dhcp4Config", "o", lease});
+                   {"org.freedesktop.NetworkManager.Connection.Active", "Dhcp4Config", "o", lease});
     }
 
     void leaseDomain(const std::string& domain)
@@ -123,20 +123,25 @@ const Scenario scenarios[] = {
                                     "route.example", "true", "2", "corp.example", "false"});
          t.leaseDomain("dhcp.example");
      },
-     "corp.example", {"corp.example", "lab.example"}},
+     "corp.example",
+     {"corp.example", "lab.example"}},
     {"ResolvedWithOnlyRouteOrEmptyDomainsPassesToTheLease",
      [](DomainSources& t) {
          t.startResolved("a(isb)", {"2", "3", "route.example", "true", "2", "", "false"});
          t.leaseDomain("dhcp.example  other.example");
      },
-     "dhcp.example", {"dhcp.example", "other.example"}},
+     "dhcp.example",
+     {"dhcp.example", "other.example"}},
     {"ResolvedInAnotherShapePassesToTheLease",
      [](DomainSources& t) {
          t.startResolved("as", {"1", "corp.example"});
          t.leaseDomain("dhcp.example");
      },
-     "dhcp.example", {"dhcp.example"}},
-    {"LeaseWhenResolvedIsAbsent", [](DomainSources& t) { t.leaseDomain("dhcp.example"); }, "dhcp.example",
+     "dhcp.example",
+     {"dhcp.example"}},
+    {"LeaseWhenResolvedIsAbsent",
+     [](DomainSources& t) { t.leaseDomain("dhcp.example"); },
+     "dhcp.example",
      {"dhcp.example"}},
     {"LeaseWithoutDomainFallsToTheFile",
      [](DomainSources& t) {
@@ -150,8 +155,8 @@ const Scenario scenarios[] = {
                                       {"1", "domain_name", "ay", "3", "97", "98", "99"});
      },
      "file.example", fromFile},
-    {"PrimaryConnectionWithoutLeaseFallsToTheFile",
-     [](DomainSources& t) { t.primaryConnectionWithLease("/", {}); }, "file.example", fromFile},
+    {"PrimaryConnectionWithoutLeaseFallsToTheFile", [](DomainSources& t) { t.primaryConnectionWithLease("/", {}); },
+     "file.example", fromFile},
     {"NetworkManagerWithoutPrimaryConnectionFallsToTheFile",
      [](DomainSources& t) {
          t.startNetworkManager();
@@ -180,7 +185,7 @@ TEST_F(DomainSources, ResolvedThatNeverAnswersPassesToTheLeaseAfterTheCallTimeOu
 {
     std::string script = host.tmp.write("silent.py", silentResolved).string();
     ASSERT_TRUE(bus.startPeer({"/usr/bin/python3", script}, {"org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                                              "org.freedesktop.DBus", "GetNameOwner", "s", resolve1}));
+                                                             "org.freedesktop.DBus", "GetNameOwner", "s", resolve1}));
     leaseDomain("dhcp.example");
     EXPECT_EQ(com::torvane::api::getSearchDomain(), "dhcp.example");
 }

@@ -34,17 +34,17 @@ TEST(HttpClientRequests, CarryTheOptionsOfTheirOperation)
         std::string method, agentHeader, cookie, body;
     };
     const std::vector<Case> cases = {
-        {"get with a cookie", [&] { taken(BasicHttpRequest::get(server.url("/echo"), "a=1", false)); },
-         "GET", "(none)", "a=1", ""},
-        {"get without a cookie", [&] { taken(BasicHttpRequest::get(server.url("/echo"), "", true)); },
-         "GET", "(none)", "(none)", ""},
-        {"post2", [&] { BasicHttpRequest::post2(server.url("/echo"), "k=v&x=y", "sid=9"); },
-         "POST", agentUserAgent, "sid=9", "k=v&x=y"},
-        {"post without a cookie", [&] { taken(BasicHttpRequest::post(server.url("/echo"), "", "", true)); },
-         "POST", agentUserAgent, "(none)", ""},
+        {"get with a cookie", [&] { taken(BasicHttpRequest::get(server.url("/echo"), "a=1", false)); }, "GET", "(none)",
+         "a=1", ""},
+        {"get without a cookie", [&] { taken(BasicHttpRequest::get(server.url("/echo"), "", true)); }, "GET", "(none)",
+         "(none)", ""},
+        {"post2", [&] { BasicHttpRequest::post2(server.url("/echo"), "k=v&x=y", "sid=9"); }, "POST", agentUserAgent,
+         "sid=9", "k=v&x=y"},
+        {"post without a cookie", [&] { taken(BasicHttpRequest::post(server.url("/echo"), "", "", true)); }, "POST",
+         agentUserAgent, "(none)", ""},
         {"test", [&] { BasicHttpRequest::test(server.url("/echo")); }, "HEAD", "(none)", "(none)", ""},
-        {"getBinary", [&] { BasicHttpRequest::getBinary(server.url("/echo"), (dir.path() / "f").string()); },
-         "GET", agentUserAgent, "(none)", ""},
+        {"getBinary", [&] { BasicHttpRequest::getBinary(server.url("/echo"), (dir.path() / "f").string()); }, "GET",
+         agentUserAgent, "(none)", ""},
     };
     for (const Case& c : cases) {
         c.request();
@@ -107,10 +107,10 @@ TEST(HttpClientGet, StripsThePreambleOrReadsTheCookieFromTheBody)
     };
     const std::vector<Case> cases = {
         {"/preamble", true, "rest"},
-        {"/echo", true, "hello"},                 // no blank line: the body unchanged
-        {"/cookie-in-body", false, "fromBody"},   // found in the body, to the carriage return
-        {"/echo", false, ""},                     // the header's cookie is not read
-        {"/moved", true, "moved"},                // the redirect is not followed
+        {"/echo", true, "hello"},                // no blank line: the body unchanged
+        {"/cookie-in-body", false, "fromBody"},  // found in the body, to the carriage return
+        {"/echo", false, ""},                    // the header's cookie is not read
+        {"/moved", true, "moved"},               // the redirect is not followed
     };
     for (const Case& c : cases) {
         EXPECT_EQ(taken(BasicHttpRequest::get(server.url(c.path), "", c.strip)), c.result) << c.path;
@@ -149,8 +149,8 @@ TEST(HttpClientGetBinary, WritesTheBodyByteForByteAndNeverThroughAnUnopenedFile)
 TEST(HttpClientUrlEncode, UsesLibcurlsEscaping)
 {
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"a b", "a%20b"}, {"&", "%26"}, {"a=b&c", "a%3Db%26c"}, {"", ""}, {"-_.~", "-_.~"},
-        {std::string("\0\xff", 2), "%00%FF"}};
+        {"a b", "a%20b"}, {"&", "%26"},     {"a=b&c", "a%3Db%26c"},
+        {"", ""},         {"-_.~", "-_.~"}, {std::string("\0\xff", 2), "%00%FF"}};
     for (const auto& [text, encoded] : cases) {
         EXPECT_EQ(BasicHttpRequest::urlEncode(text), encoded);
     }

@@ -39,7 +39,8 @@ public:
             res.status = 404;
             res.set_content(sectionDocument, "application/xml");  // a valid body that must not be read
         });
-        server_.Get("/moved.xml", [](const httplib::Request&, httplib::Response& res) { res.set_redirect("/section.xml"); });
+        server_.Get("/moved.xml",
+                    [](const httplib::Request&, httplib::Response& res) { res.set_redirect("/section.xml"); });
         server_.Get("/large.xml", [](const httplib::Request&, httplib::Response& res) {
             res.set_content("<section>" + std::string(2 << 20, ' ') + "</section>", "application/xml");
         });
@@ -107,18 +108,20 @@ TEST_P(FetchDocumentTest, KeepsWithinTheLimits)
     EXPECT_EQ(result.body, c.ok ? sectionDocument : "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Paths, FetchDocumentTest, testing::Values(
-    FetchCase{"Found", "/section.xml", true, 200, ""},
-    FetchCase{"NotFound", "/missing.xml", false, 404, "the server answered with status 404"},
-    FetchCase{"RedirectNotFollowed", "/moved.xml", false, 302,
-              "the server answered with status 302, a redirect to http://127.0.0.1:"},
-    FetchCase{"Oversize", "/large.xml", false, 200, "the document is larger than 1048576 bytes"},
-    FetchCase{"Stalled", "/stalled.xml", false, 0, "no complete answer within the time-out of 0.7 s (Operation timed out"},
-    FetchCase{"NothingListening", "http://127.0.0.1:1/x.xml", false, 0, ""},
-    // Web addresses only.
-    FetchCase{"FileScheme", "file:///etc/hostname", false, 0, ""},
-    FetchCase{"FtpScheme", "ftp://127.0.0.1/x", false, 0, ""},
-    FetchCase{"GopherScheme", "gopher://127.0.0.1/", false, 0, ""}),
+INSTANTIATE_TEST_SUITE_P(
+    Paths, FetchDocumentTest,
+    testing::Values(FetchCase{"Found", "/section.xml", true, 200, ""},
+                    FetchCase{"NotFound", "/missing.xml", false, 404, "the server answered with status 404"},
+                    FetchCase{"RedirectNotFollowed", "/moved.xml", false, 302,
+                              "the server answered with status 302, a redirect to http://127.0.0.1:"},
+                    FetchCase{"Oversize", "/large.xml", false, 200, "the document is larger than 1048576 bytes"},
+                    FetchCase{"Stalled", "/stalled.xml", false, 0,
+                              "no complete answer within the time-out of 0.7 s (Operation timed out"},
+                    FetchCase{"NothingListening", "http://127.0.0.1:1/x.xml", false, 0, ""},
+                    // Web addresses only.
+                    FetchCase{"FileScheme", "file:///etc/hostname", false, 0, ""},
+                    FetchCase{"FtpScheme", "ftp://127.0.0.1/x", false, 0, ""},
+                    FetchCase{"GopherScheme", "gopher://127.0.0.1/", false, 0, ""}),
     [](const testing::TestParamInfo<FetchCase>& testCase) { return testCase.param.title; });
 
 std::unique_ptr<xercesc::SAX2XMLReader> newReader()

@@ -49,8 +49,8 @@ protected:
 
     void prepareForSleep(bool sleeping)
     {
-        bus.call({login1, login1Path, "org.freedesktop.DBus.Mock", "EmitSignal", "sssav", manager, "PrepareForSleep", "b",
-                  "1", "b", sleeping ? "true" : "false"});
+        bus.call({login1, login1Path, "org.freedesktop.DBus.Mock", "EmitSignal", "sssav", manager, "PrepareForSleep",
+                  "b", "1", "b", sleeping ? "true" : "false"});
     }
 };
 

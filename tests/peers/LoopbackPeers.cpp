@@ -24,8 +24,8 @@ const testing_support::TempDir& certificateDir()
     static const bool made = [] {
         auto result = testing_support::runProgram(
             {"openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "1", "-subj", "/CN=127.0.0.1",
-             "-addext", "subjectAltName=IP:127.0.0.1",
-             "-keyout", (dir.path() / "key.pem").string(), "-out", (dir.path() / "cert.pem").string()});
+             "-addext", "subjectAltName=IP:127.0.0.1", "-keyout", (dir.path() / "key.pem").string(), "-out",
+             (dir.path() / "cert.pem").string()});
         if (result.exitCode != 0) {
             throw std::runtime_error("openssl could not make a certificate: " + result.err);
         }
@@ -155,15 +155,22 @@ void HttpPeer::remember(const httplib::Request& request)
 {
     std::lock_guard<std::mutex> lock(mutex_);
     int count = seen_.count + 1;
-    seen_ = SeenRequest{request.method, request.path, {request.headers.begin(), request.headers.end()}, request.body,
-                        count};
+    seen_ = SeenRequest{
+        request.method, request.path, {request.headers.begin(), request.headers.end()}, request.body, count};
 }
 
 Dnsmasq::Dnsmasq(const std::vector<std::string>& records) : port_(freeUdpPort())
 {
-    std::vector<std::string> argv = {"dnsmasq", "--keep-in-foreground", "--no-resolv", "--no-hosts",
-                                     "--no-daemon", "--bind-interfaces", "--listen-address=127.0.0.1",
-                                     "--port=" + std::to_string(port_), "--pid-file=", "--user=root",
+    std::vector<std::string> argv = {"dnsmasq",
+                                     "--keep-in-foreground",
+                                     "--no-resolv",
+                                     "--no-hosts",
+                                     "--no-daemon",
+                                     "--bind-interfaces",
+                                     "--listen-address=127.0.0.1",
+                                     "--port=" + std::to_string(port_),
+                                     "--pid-file=",
+                                     "--user=root",
                                      "--txt-record=_ready._tcp.test,up=1"};
     argv.insert(argv.end(), records.begin(), records.end());
     process_ = std::make_unique<testing_support::ChildProcess>(argv);
@@ -178,10 +185,7 @@ Dnsmasq::Dnsmasq(const std::vector<std::string>& records) : port_(freeUdpPort())
     throw std::runtime_error("dnsmasq did not start");
 }
 
-SilentNameServer::SilentNameServer()
-    : fd_(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)), port_(bindLoopback(fd_))
-{
-}
+SilentNameServer::SilentNameServer() : fd_(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)), port_(bindLoopback(fd_)) {}
 
 SilentNameServer::~SilentNameServer() { ::close(fd_); }
 

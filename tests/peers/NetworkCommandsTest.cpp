@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-
 #include "peers/LoopbackPeers.h"
 #include "support/RunCli.h"
 #include "support/TempDir.h"
@@ -93,8 +92,11 @@ TEST(HttpCommand, OptionsOfANewUser)
         std::string bodySeen;  // by the plain server, when not empty
     };
     const std::vector<Case> cases = {
-        {{"get", plain.url("/moved")}, 1, "moved",
-         plain.url("/moved") + " answered 302, a redirect to " + plain.url("/echo") + ": not followed (-L follows it)", ""},
+        {{"get", plain.url("/moved")},
+         1,
+         "moved",
+         plain.url("/moved") + " answered 302, a redirect to " + plain.url("/echo") + ": not followed (-L follows it)",
+         ""},
         {{"get", plain.url("/moved"), "-L"}, 0, "hello", "a redirect to " + plain.url("/echo") + ": following it", ""},
         {{"head", plain.url("/moved"), "-L"}, 2, "", "-L follows the redirects of get only", ""},
         {{"get", tls.url("/echo"), "--cacert", peers::HttpPeer::certificateFile()}, 0, "hello", "", ""},
@@ -188,7 +190,8 @@ TEST(HttpCommand, EndlessAnswerStaysWithinTheCap)
     EXPECT_NE(result.err.find("larger than 8000000 bytes"), std::string::npos) << result.err;
     long small = peakKilobytes({"http", "get", server.url("/echo")});
     long endless = peakKilobytes({"http", "get", server.url("/endless"), "--max-size", "8000000", "--timeout", "20"});
-    EXPECT_LT(endless - small, 64 * 1024) << "kB: " << small << " for a small answer, " << endless << " for an endless one";
+    EXPECT_LT(endless - small, 64 * 1024)
+        << "kB: " << small << " for a small answer, " << endless << " for an endless one";
 }
 
 TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
@@ -203,15 +206,17 @@ TEST(DiscoverCommand, ListsServersInTheAgentsOrderThenSettings)
     });
     auto result = runCli({"discover", "agent", "--domain", "corp.test", "--server", dns.address()});
     EXPECT_EQ(result.exitCode, 0) << result.err;
-    EXPECT_EQ(result.out, "SRV 1 99 8443 z.corp.test\nSRV 10 20 443 a.corp.test\nSRV 10 60 443 b.corp.test\n"
-                          "TXT server=a.corp.test\nTXT port=443\n");
+    EXPECT_EQ(result.out,
+              "SRV 1 99 8443 z.corp.test\nSRV 10 20 443 a.corp.test\nSRV 10 60 443 b.corp.test\n"
+              "TXT server=a.corp.test\nTXT port=443\n");
 
     result = runCli({"discover", "agent", "--domain", "corp.test", "--server", dns.address(), "--json"});
     ASSERT_EQ(result.exitCode, 0) << result.err;
     auto shown = nlohmann::json::parse(result.out);
     EXPECT_EQ(shown["name"], "_agent._tcp.corp.test");
     ASSERT_EQ(shown["srv"].size(), 3u);
-    EXPECT_EQ(shown["srv"][1], (nlohmann::json{{"priority", 10}, {"weight", 20}, {"port", 443}, {"target", "a.corp.test"}}));
+    EXPECT_EQ(shown["srv"][1],
+              (nlohmann::json{{"priority", 10}, {"weight", 20}, {"port", 443}, {"target", "a.corp.test"}}));
     EXPECT_EQ(shown["txt"], (nlohmann::json{"server=a.corp.test", "port=443"}));
     EXPECT_EQ(shown["error"], nullptr);
 
@@ -250,11 +255,12 @@ TEST(DiscoverCommand, TellsNoRecordsFromNoAnswer)
         std::string inMessage;
     };
     const std::vector<Case> cases = {
-        {"NoSuchName", "other", authoritative.address(), 1, "no-such-name", "answered: there is no name _other._tcp.corp.test"},
+        {"NoSuchName", "other", authoritative.address(), 1, "no-such-name",
+         "answered: there is no name _other._tcp.corp.test"},
         {"Refused", "agent", forwarder.address(), 3, "no-answer", "refused or failed the question"},
         {"NothingListening", "agent", "127.0.0.1:1", 3, "no-answer", "refused or failed"},
-        {"Silent", "agent", silent.address(), 3, "no-answer", "no answer from the name server " + silent.address() +
-         " within 5 s"},
+        {"Silent", "agent", silent.address(), 3, "no-answer",
+         "no answer from the name server " + silent.address() + " within 5 s"},
     };
     for (const Case& c : cases) {
         auto text = runCli({"discover", c.service, "--domain", "corp.test", "--server", c.server});
@@ -290,7 +296,8 @@ TEST(DiscoverCommand, UsesTheSystemsResolverAndSearchDomain)
         "--txt-record=_agent._tcp.corp.test,ok=1 2>/dev/null &\n"
         "for i in $(seq 200); do \"$2\" discover agent >/dev/null && break; sleep 0.05; done\n"
         "\"$2\" discover agent; status=$?; kill $!; wait; exit $status\n";
-    auto result = testing_support::runProgram({"unshare", "-mn", "sh", "-c", script, "sh", conf.string(), TVPOLICY_CLI});
+    auto result =
+        testing_support::runProgram({"unshare", "-mn", "sh", "-c", script, "sh", conf.string(), TVPOLICY_CLI});
     EXPECT_EQ(result.exitCode, 0) << result.err;
     EXPECT_EQ(result.out, "SRV 1 1 443 a.corp.test\nTXT ok=1\n");
 }
@@ -312,14 +319,15 @@ TEST(RunIncludes, NameTheCauseOfAFailedFetch)
     const std::vector<Case> cases = {
         {plain.url("/status/404"), "the server answered with status 404"},
         {plain.url("/status/503"), "the server answered with status 503"},
-        {plain.url("/moved"), "the server answered with status 302, a redirect to " + plain.url("/echo") +
-                                  " that is not followed"},
+        {plain.url("/moved"),
+         "the server answered with status 302, a redirect to " + plain.url("/echo") + " that is not followed"},
         {plain.url("/endless"), "the document is larger than 16777216 bytes"},
         {tls.url("/echo"), "the server's certificate is not trusted ("},
     };
     for (const Case& c : cases) {
         testing_support::TempDir dir;
-        auto policy = dir.write("p.xml", "<policy name=\"p\">\n<include id=\"remote\" url=\"" + c.url + "\"/>\n</policy>\n");
+        auto policy =
+            dir.write("p.xml", "<policy name=\"p\">\n<include id=\"remote\" url=\"" + c.url + "\"/>\n</policy>\n");
         auto result = runCli({"run", policy.string(), "-q"});
         EXPECT_EQ(result.exitCode, 3) << c.url << ": " << result.err;
         EXPECT_NE(result.err.find("cannot read the included section at " + c.url + ": " + c.cause), std::string::npos)

@@ -33,8 +33,9 @@ protected:
         if (IsSkipped() || HasFatalFailure()) {
             return;
         }
-        ASSERT_TRUE(bus.startMock("networkmanager", {"org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager",
-                                                     "org.freedesktop.NetworkManager", "GetDevices"}))
+        ASSERT_TRUE(
+            bus.startMock("networkmanager", {"org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager",
+                                             "org.freedesktop.NetworkManager", "GetDevices"}))
             << "the NetworkManager mock did not come up";
     }
 
@@ -51,7 +52,8 @@ protected:
 
     void addWifiDevice() { control("AddWiFiDevice", "ssi", {"wifi0", "wlan0", "100"}); }
 
-    std::string addAccessPoint(const std::string& name, const std::string& ssid, const std::string& bssid, unsigned security)
+    std::string addAccessPoint(const std::string& name, const std::string& ssid, const std::string& bssid,
+                               unsigned security)
     {
         return control("AddAccessPoint", "ssssuuuyu",
                        {device, name, ssid, bssid, "2", "2437", "54000", "80", std::to_string(security)})["data"][0];
@@ -88,7 +90,8 @@ TEST_F(MockedNetworkManager, StatusShowsTheActiveAccessPoint)
 
     CliResult status = testing_support::runCli({"wifi", "status", "--json"});
     ASSERT_EQ(status.exitCode, 0) << status.err;
-    EXPECT_EQ(Json::parse(status.out), (Json{{"interface", "wlan0"}, {"ssid", "Home"}, {"bssid", "0A:1B:2C:3D:4E:5F"}}));
+    EXPECT_EQ(Json::parse(status.out),
+              (Json{{"interface", "wlan0"}, {"ssid", "Home"}, {"bssid", "0A:1B:2C:3D:4E:5F"}}));
     WifiManager manager;
     EXPECT_EQ(manager.getCurrentProfileName(), L"Home");
     EXPECT_EQ(manager.getCurrentBSSID(), "0A:1B:2C:3D:4E:5F");
@@ -130,10 +133,13 @@ TEST_F(MockedNetworkManager, PersonalProfilesCarryTheirKeyAndArePreferred)
     addWifiDevice();
     addAccessPoint("guest", "Guest", "0A:1B:2C:3D:4E:61", keyMgmtPsk);
     addAccessPoint("lab", "Lab", "0A:1B:2C:3D:4E:62", keyMgmtPsk);
-    ASSERT_EQ(join("<profile><SSID>Guest</SSID><securityType>WPA</securityType><password>guest pass</password></profile>")
-                  .exitCode, 0);
+    ASSERT_EQ(
+        join("<profile><SSID>Guest</SSID><securityType>WPA</securityType><password>guest pass</password></profile>")
+            .exitCode,
+        0);
     ASSERT_EQ(join("<profile><SSID>Lab</SSID><securityType>WPA2</securityType><password>lab key</password></profile>")
-                  .exitCode, 0);
+                  .exitCode,
+              0);
     std::vector<std::string> stored = connections();
     ASSERT_EQ(stored.size(), 2u);
     Json guest = settingsOf(stored[0]);

@@ -5,9 +5,9 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>

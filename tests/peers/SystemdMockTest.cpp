@@ -22,8 +22,8 @@ protected:
         if (IsSkipped()) {
             return;
         }
-        ASSERT_TRUE(bus.startMock("systemd", {systemd1, systemd1Path, "org.freedesktop.DBus.Properties", "Get", "ss",
-                                              manager, "Version"}))
+        ASSERT_TRUE(bus.startMock(
+            "systemd", {systemd1, systemd1Path, "org.freedesktop.DBus.Properties", "Get", "ss", manager, "Version"}))
             << "the systemd mock did not come up";
     }
 

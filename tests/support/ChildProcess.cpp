@@ -1,13 +1,13 @@
 #include "support/ChildProcess.h"
 
-#include <cerrno>
-#include <csignal>
 #include <fcntl.h>
 #include <poll.h>
-#include <unistd.h>
 #include <spawn.h>
-#include <stdexcept>
 #include <sys/wait.h>
+#include <unistd.h>
+#include <cerrno>
+#include <csignal>
+#include <stdexcept>
 
 extern char** environ;
 

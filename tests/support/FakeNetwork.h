@@ -26,23 +26,23 @@ public:
     /// Link state by interface name; an interface not listed is down.
     std::map<std::string, LinkState> links;
 
-    std::string suffix;                     ///< answered by dnsSuffix()
-    std::vector<std::string> searchDomains; ///< answered by dnsSearchDomains()
-    std::string bssidTool;                  ///< answered by bssidCommand()
-    bool renewResult = true;                ///< what renewAddress returns
-    std::vector<std::string> renewed;       ///< every interface given to renewAddress
+    std::string suffix;                      ///< answered by dnsSuffix()
+    std::vector<std::string> searchDomains;  ///< answered by dnsSearchDomains()
+    std::string bssidTool;                   ///< answered by bssidCommand()
+    bool renewResult = true;                 ///< what renewAddress returns
+    std::vector<std::string> renewed;        ///< every interface given to renewAddress
 
-    GuestTools tools;                                   ///< answered by guestTools()
-    std::map<std::string, std::string> outputs;         ///< command text to its output
-    std::vector<std::string> commands;                  ///< every command run, in order
+    GuestTools tools;                            ///< answered by guestTools()
+    std::map<std::string, std::string> outputs;  ///< command text to its output
+    std::vector<std::string> commands;           ///< every command run, in order
 
-    std::optional<WifiStatus> wifi;         ///< the Wi-Fi interface, if any
-    std::vector<WifiNetwork> visible;       ///< what a scan finds (filtered by SSID)
-    std::string scanError;                  ///< set on every scan when not empty
+    std::optional<WifiStatus> wifi;    ///< the Wi-Fi interface, if any
+    std::vector<WifiNetwork> visible;  ///< what a scan finds (filtered by SSID)
+    std::string scanError;             ///< set on every scan when not empty
     /// The association attempt (counted from 1) after which the interface is on the network;
     /// 0 never joins.
     int joinOnAttempt = 1;
-    std::string associateError;             ///< set on every attempt when not empty
+    std::string associateError;  ///< set on every attempt when not empty
     struct Association {
         std::string ssid;
         std::string password;

@@ -105,7 +105,8 @@ bool NetNamespace::enter()
         return false;
     }
     std::string resolv = "/etc/netns/" + name_ + "/resolv.conf";
-    if (::access(resolv.c_str(), F_OK) == 0 && ::mount(resolv.c_str(), "/etc/resolv.conf", nullptr, MS_BIND, nullptr) != 0) {
+    if (::access(resolv.c_str(), F_OK) == 0 &&
+        ::mount(resolv.c_str(), "/etc/resolv.conf", nullptr, MS_BIND, nullptr) != 0) {
         return false;
     }
     ::setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus", 1);

@@ -35,14 +35,19 @@ PrivateBus::~PrivateBus()
 
 bool PrivateBus::start()
 {
-    std::string config = tmp_.write("bus.conf",
-        "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-BUS Bus Configuration 1.0//EN\" "
-        "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-        "<busconfig><type>system</type><listen>unix:path=" + socket_ + "</listen><auth>EXTERNAL</auth>"
-        "<policy context=\"default\"><allow user=\"*\"/><allow own=\"*\"/><allow send_destination=\"*\"/>"
-        "<allow receive_sender=\"*\"/></policy></busconfig>\n").string();
-    daemon_ = std::make_unique<ChildProcess>(
-        std::vector<std::string>{"dbus-daemon", "--config-file=" + config, "--nofork"});
+    std::string config =
+        tmp_.write(
+                "bus.conf",
+                "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-BUS Bus Configuration 1.0//EN\" "
+                "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+                "<busconfig><type>system</type><listen>unix:path=" +
+                    socket_ +
+                    "</listen><auth>EXTERNAL</auth>"
+                    "<policy context=\"default\"><allow user=\"*\"/><allow own=\"*\"/><allow send_destination=\"*\"/>"
+                    "<allow receive_sender=\"*\"/></policy></busconfig>\n")
+            .string();
+    daemon_ =
+        std::make_unique<ChildProcess>(std::vector<std::string>{"dbus-daemon", "--config-file=" + config, "--nofork"});
     for (int i = 0; i < 100 && !std::filesystem::exists(socket_); ++i) {
         ::usleep(50'000);
     }

@@ -14,10 +14,10 @@ ReferenceServer::ReferenceServer(const std::vector<std::string>& arguments, cons
 {
     std::filesystem::create_directories(dir_.path() / "results");
     std::vector<std::string> argv = prefix;
-    for (std::string word : {std::string("/usr/bin/python3"), std::string(TVPOLICY_SOURCE_DIR) + "/examples/server/server.py",
-                             std::string("--port"), std::string("0"), std::string("--log"),
-                             (dir_.path() / "requests.jsonl").string(), std::string("--results-dir"),
-                             (dir_.path() / "results").string()}) {
+    for (std::string word :
+         {std::string("/usr/bin/python3"), std::string(TVPOLICY_SOURCE_DIR) + "/examples/server/server.py",
+          std::string("--port"), std::string("0"), std::string("--log"), (dir_.path() / "requests.jsonl").string(),
+          std::string("--results-dir"), (dir_.path() / "results").string()}) {
         argv.push_back(word);
     }
     argv.insert(argv.end(), arguments.begin(), arguments.end());
@@ -63,8 +63,8 @@ bool ReferenceServer::waitForRequests(const std::string& path, std::size_t count
     auto deadline = std::chrono::steady_clock::now() + timeout;
     for (;;) {
         std::vector<nlohmann::json> all = requests();
-        auto seen = static_cast<std::size_t>(std::count_if(
-            all.begin(), all.end(), [&](const nlohmann::json& entry) { return entry["path"] == path; }));
+        auto seen = static_cast<std::size_t>(
+            std::count_if(all.begin(), all.end(), [&](const nlohmann::json& entry) { return entry["path"] == path; }));
         if (seen >= count) {
             return true;
         }

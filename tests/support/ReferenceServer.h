@@ -18,8 +18,7 @@ class ReferenceServer {
 public:
     /// `arguments` go to the server after its own (--port 0 --log ... --results-dir ...).
     /// `prefix` runs it through another program first (such as `ip netns exec NAME`).
-    explicit ReferenceServer(const std::vector<std::string>& arguments,
-                             const std::vector<std::string>& prefix = {});
+    explicit ReferenceServer(const std::vector<std::string>& arguments, const std::vector<std::string>& prefix = {});
 
     bool started() const { return port_ != 0; }
     int port() const { return port_; }

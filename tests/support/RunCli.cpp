@@ -1,13 +1,13 @@
 #include "support/RunCli.h"
 
-#include <cerrno>
-#include <csignal>
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
-#include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <cerrno>
+#include <csignal>
+#include <stdexcept>
 
 extern char** environ;
 
@@ -66,7 +66,8 @@ CliResult runProgram(const std::vector<std::string>& argv, const std::string& in
     err.close(1);
 
     // A reader that has gone away must not kill the test with SIGPIPE.
-    struct sigaction ignore {}, previous {};
+    struct sigaction ignore {
+    }, previous{};
     ignore.sa_handler = SIG_IGN;
     ::sigaction(SIGPIPE, &ignore, &previous);
 

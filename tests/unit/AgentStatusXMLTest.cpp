@@ -30,11 +30,16 @@ TEST(AgentStatusXML, MapsExactStatusWordsOnly)
 {
     using S = AgentStatusXML;
     const std::vector<std::pair<std::string, AgentStatusXML::Status>> cases = {
-        {"<status>SUCCESS</status>", S::SUCCESS}, {"<status>AUTH_FAILURE</status>", S::AUTH_FAILURE},
-        {"<status>SCAN_FAILURE</status>", S::SCAN_FAILURE}, {"<status>ERROR</status>", S::ERROR},
-        {"<status>NEEDS_SCAN</status>", S::NEEDS_SCAN}, {"<status>SCAN_SUCCESS</status>", S::SCAN_SUCCESS},
-        {"<status>NEEDS_SWIFTJOIN</status>", S::NEEDS_SWIFTJOIN}, {"<status>success</status>", S::ERROR},
-        {"<status> SUCCESS</status>", S::ERROR}, {"", S::ERROR},
+        {"<status>SUCCESS</status>", S::SUCCESS},
+        {"<status>AUTH_FAILURE</status>", S::AUTH_FAILURE},
+        {"<status>SCAN_FAILURE</status>", S::SCAN_FAILURE},
+        {"<status>ERROR</status>", S::ERROR},
+        {"<status>NEEDS_SCAN</status>", S::NEEDS_SCAN},
+        {"<status>SCAN_SUCCESS</status>", S::SCAN_SUCCESS},
+        {"<status>NEEDS_SWIFTJOIN</status>", S::NEEDS_SWIFTJOIN},
+        {"<status>success</status>", S::ERROR},
+        {"<status> SUCCESS</status>", S::ERROR},
+        {"", S::ERROR},
         {"<x><status>NEEDS_SCAN</status></x><status>SUCCESS</status>", S::NEEDS_SCAN}};
     for (const auto& [body, status] : cases) {
         EXPECT_EQ(parseReply(body)->getStatus(), status) << body;
@@ -43,8 +48,9 @@ TEST(AgentStatusXML, MapsExactStatusWordsOnly)
 
 TEST(AgentStatusXML, ReadsTheFirstOfEachElement)
 {
-    auto status = parseReply("<status>NEEDS_SCAN</status><scanName>full</scanName><scanName>quick</scanName>"
-                             "<message>m</message><uid>id-1</uid><o:uid xmlns:o='urn:other'>no</o:uid>");
+    auto status = parseReply(
+        "<status>NEEDS_SCAN</status><scanName>full</scanName><scanName>quick</scanName>"
+        "<message>m</message><uid>id-1</uid><o:uid xmlns:o='urn:other'>no</o:uid>");
     EXPECT_EQ(status->getStatus(), 4);
     EXPECT_EQ(status->getScanName(), "full");
     EXPECT_EQ(status->getMessage(), "m");
@@ -58,9 +64,10 @@ TEST(AgentStatusXML, ReadsTheFirstOfEachElement)
 
 TEST(AgentStatusXML, CarriesAWifiProfileShared)
 {
-    auto status = parseReply("<status>SUCCESS</status><profile><name>Campus</name><SSID>campus-1x</SSID>"
-                             "<securityType>WPA2_ENTERPRISE</securityType><EAPConfig>PEAP</EAPConfig>"
-                             "<configCipher>AES</configCipher></profile><profile><name>Second</name></profile>");
+    auto status = parseReply(
+        "<status>SUCCESS</status><profile><name>Campus</name><SSID>campus-1x</SSID>"
+        "<securityType>WPA2_ENTERPRISE</securityType><EAPConfig>PEAP</EAPConfig>"
+        "<configCipher>AES</configCipher></profile><profile><name>Second</name></profile>");
     auto profile = status->getWifiProfile();
     ASSERT_TRUE(profile);
     EXPECT_EQ(profile->getName(), "Campus");
@@ -93,28 +100,38 @@ TEST_P(WifiProfileTest, AppliesEachChildInOrder)
 }
 
 using P = WifiConfigurationProfile;
-INSTANTIATE_TEST_SUITE_P(Children, WifiProfileTest, testing::Values(
-    ProfileCase{"", P::TLS, P::OPEN, 2, false},
-    ProfileCase{"<securityType>WPA2_ENTERPRISE</securityType><EAPConfig>PEAP</EAPConfig>", P::PEAP, P::WPA2_ENTERPRISE, 2, false},
-    // An unknown EAP or security word keeps the earlier value; an unknown cipher word sets 2.
-    ProfileCase{"<EAPConfig>TTLS</EAPConfig><EAPConfig>MD5</EAPConfig><securityType>WEP</securityType>"
-                "<securityType>wpa2</securityType><configCipher>TKIP</configCipher><configCipher>CCMP</configCipher>",
-                P::TTLS, P::WEP, 2, false},
-    ProfileCase{"<EAPConfig>EAP_SIM</EAPConfig><securityType>WPA_ENTERPRISE</securityType><configCipher>TKIP</configCipher>"
-                "<validateServerCertWindows>true</validateServerCertWindows>", P::EAP_SIM, P::WPA_ENTERPRISE, 1, true},
-    ProfileCase{"<EAPConfig>LEAP</EAPConfig><securityType>WEP_ENTERPRISE</securityType>"
-                "<validateServerCertWindows>True</validateServerCertWindows>", P::LEAP, P::WEP_ENTERPRISE, 2, false},
-    ProfileCase{"<validateServerCertWindows>true</validateServerCertWindows>"
-                "<validateServerCertWindows>false</validateServerCertWindows>", P::TLS, P::OPEN, 2, false}));
+INSTANTIATE_TEST_SUITE_P(
+    Children, WifiProfileTest,
+    testing::Values(
+        ProfileCase{"", P::TLS, P::OPEN, 2, false},
+        ProfileCase{"<securityType>WPA2_ENTERPRISE</securityType><EAPConfig>PEAP</EAPConfig>", P::PEAP,
+                    P::WPA2_ENTERPRISE, 2, false},
+        // An unknown EAP or security word keeps the earlier value; an unknown cipher word sets 2.
+        ProfileCase{
+            "<EAPConfig>TTLS</EAPConfig><EAPConfig>MD5</EAPConfig><securityType>WEP</securityType>"
+            "<securityType>wpa2</securityType><configCipher>TKIP</configCipher><configCipher>CCMP</configCipher>",
+            P::TTLS, P::WEP, 2, false},
+        ProfileCase{
+            "<EAPConfig>EAP_SIM</EAPConfig><securityType>WPA_ENTERPRISE</securityType><configCipher>TKIP</configCipher>"
+            "<validateServerCertWindows>true</validateServerCertWindows>",
+            P::EAP_SIM, P::WPA_ENTERPRISE, 1, true},
+        ProfileCase{"<EAPConfig>LEAP</EAPConfig><securityType>WEP_ENTERPRISE</securityType>"
+                    "<validateServerCertWindows>True</validateServerCertWindows>",
+                    P::LEAP, P::WEP_ENTERPRISE, 2, false},
+        ProfileCase{"<validateServerCertWindows>true</validateServerCertWindows>"
+                    "<validateServerCertWindows>false</validateServerCertWindows>",
+                    P::TLS, P::OPEN, 2, false}));
 
 TEST(WifiConfigurationProfile, TextsAndCertificate)
 {
     testing_support::CaptureStream log(std::clog);
-    auto profile = WifiConfigurationProfile::parse(
-        "<profile xmlns='" + ns + "'><name>N</name><SSID>S</SSID><password>p&amp;w</password>"
-        "<CAFingerprint>AB:CD</CAFingerprint><unknown>x</unknown></profile>");
+    auto profile =
+        WifiConfigurationProfile::parse("<profile xmlns='" + ns +
+                                        "'><name>N</name><SSID>S</SSID><password>p&amp;w</password>"
+                                        "<CAFingerprint>AB:CD</CAFingerprint><unknown>x</unknown></profile>");
     EXPECT_EQ(profile->getName() + "|" + profile->getSSID() + "|" + profile->getPassword() + "|" +
-              profile->getCAFingerprint(), "N|S|p&w|AB:CD");
+                  profile->getCAFingerprint(),
+              "N|S|p&w|AB:CD");
     EXPECT_EQ(profile->getCertificate(), nullptr);
     profile->setCertificate("\x30\x82\x00\x01", 4);
     auto shared = profile->getCertificate();
@@ -136,7 +153,8 @@ TEST(LoginField, TypeWordsAreExact)
 TEST(LoginField, ParsesASelectFieldWithItsOptionsInOrder)
 {
     testing_support::CaptureStream log(std::clog);
-    auto field = LoginField::parse("<field xmlns='" + ns + "' id='x' name='realm'><label>Realm</label><type>SELECT</type>"
+    auto field = LoginField::parse("<field xmlns='" + ns +
+                                   "' id='x' name='realm'><label>Realm</label><type>SELECT</type>"
                                    "<option><name>Staff</name><value>staff</value></option>"
                                    "<option><value>guest</value><name>Guests</name></option>"
                                    "<option><name>Lab \xc3\xa9</name><value>lab</value></option></field>");

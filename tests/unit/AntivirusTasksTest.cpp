@@ -84,8 +84,11 @@ TEST_F(Antivirus, AvastSearchesWhereItIsTold)
 {
     tmp.write("Applications/400.vps", database("15.03.2011"));
     tmp.write("opt/avast/defs.vps", database("20.06.2012"));
-    std::vector<Task::Attribute> attributes = {{"delim", "-"}, {"required", "2012-06-20"}, {"operation", "eq"},
-                                               {"fileName", "defs.vps"}, {"startPath", (tmp.path() / "opt").string()}};
+    std::vector<Task::Attribute> attributes = {{"delim", "-"},
+                                               {"required", "2012-06-20"},
+                                               {"operation", "eq"},
+                                               {"fileName", "defs.vps"},
+                                               {"startPath", (tmp.path() / "opt").string()}};
     EXPECT_TRUE(performBareCheck("AvastVersionTask", attributes));
     attributes[3].second = "400.vps";
     EXPECT_FALSE(performBareCheck("AvastVersionTask", attributes));
@@ -97,8 +100,9 @@ TEST_F(Antivirus, AvastWithoutDatabasesComparesZero)
     EXPECT_TRUE(performBareCheck("AvastVersionTask", {{"delim", "-"}, {"required", "0"}}));
     // A start that is no directory is a search error: no database either.
     tmp.write("file", "");
-    EXPECT_FALSE(performBareCheck("AvastVersionTask", {{"delim", "-"}, {"required", "2011-01-01"},
-                                              {"startPath", (tmp.path() / "file").string()}}));
+    EXPECT_FALSE(
+        performBareCheck("AvastVersionTask",
+                         {{"delim", "-"}, {"required", "2011-01-01"}, {"startPath", (tmp.path() / "file").string()}}));
 }
 
 TEST(AvastDefinitionDate, RebuildsTheDateFromTheTenBytes)
@@ -106,8 +110,8 @@ TEST(AvastDefinitionDate, RebuildsTheDateFromTheTenBytes)
     TempDir tmp;
     const std::vector<std::pair<std::string, std::string>> cases = {
         {database("15.03.2011"), "2011-03-15"},
-        {database("01/12/1999"), "1999-12-01"},  // separators are not checked
-        {database("ab.cd.efgh"), "efgh-cd-ab"},  // nor digits
+        {database("01/12/1999"), "1999-12-01"},          // separators are not checked
+        {database("ab.cd.efgh"), "efgh-cd-ab"},          // nor digits
         {std::string(241, ' ') + "15.0", "0000-00-15"},  // a short read leaves zeros
         {std::string(100, ' '), "0000-00-00"},
         {"", "0000-00-00"},

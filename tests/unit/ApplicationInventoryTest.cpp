@@ -32,17 +32,21 @@ std::string plist(const std::string& body)
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-           "<plist version=\"1.0\">" + body + "</plist>\n";
+           "<plist version=\"1.0\">" +
+           body + "</plist>\n";
 }
 
-std::string item(const std::string& fields) { return "<dict>" + fields + "<key>path</key><string>/Applications/x</string></dict>"; }
+std::string item(const std::string& fields)
+{
+    return "<dict>" + fields + "<key>path</key><string>/Applications/x</string></dict>";
+}
 
 const std::string profilerOutput = plist(
     "<array>"
     "<dict><key>_dataType</key><string>SPApplicationsDataType</string><key>_items</key><array>" +
     item("<key>_name</key><string>Mail</string><key>version</key><string>4.5</string>") +
-    item("<key>version</key><string>9.9</string>") +                                  // no name: left out
-    item("<key>_name</key><string>Tools &amp; &lt;Utilities&gt;</string>") +          // no version
+    item("<key>version</key><string>9.9</string>") +                                    // no name: left out
+    item("<key>_name</key><string>Tools &amp; &lt;Utilities&gt;</string>") +            // no version
     item("<key>_name</key><integer>7</integer><key>version</key><string>1</string>") +  // a name that is no string
     item("<key>_name</key><string>Caf\xC3\xA9</string><key>version</key><string>2.0 (b3)</string>") +
     "</array></dict>"
@@ -100,10 +104,11 @@ TEST(ProfilerApplications, OtherRootsAndBrokenDocumentsGiveNothing)
 
 TEST(ProfilerApplications, ExternalEntitiesAreNotRead)
 {
-    std::string xml = "<?xml version=\"1.0\"?><!DOCTYPE plist [<!ENTITY leak SYSTEM \"file:///etc/hostname\">]>"
-                      "<plist><array><dict><key>_dataType</key><string>SPApplicationsDataType</string>"
-                      "<key>_items</key><array><dict><key>_name</key><string>a&leak;b</string></dict></array>"
-                      "</dict></array></plist>";
+    std::string xml =
+        "<?xml version=\"1.0\"?><!DOCTYPE plist [<!ENTITY leak SYSTEM \"file:///etc/hostname\">]>"
+        "<plist><array><dict><key>_dataType</key><string>SPApplicationsDataType</string>"
+        "<key>_items</key><array><dict><key>_name</key><string>a&leak;b</string></dict></array>"
+        "</dict></array></plist>";
     std::ostringstream out;
     std::ostringstream err;
     EXPECT_EQ(pairsOf(tvpolicy::parse::applicationsFromProfiler(xml, out, err)), (Pairs{{"ab", ""}}));
@@ -112,7 +117,7 @@ TEST(ProfilerApplications, ExternalEntitiesAreNotRead)
 const char* const dpkgStatus =
     "Package: dpkg\nStatus: install ok installed\nArchitecture: amd64\nMulti-Arch: foreign\nVersion: 1.21.22\n"
     "Description: Debian package management system\n This package provides the low-level infrastructure\n"
-     " Package: fake-in-description\n\n"
+    " Package: fake-in-description\n\n"
     "Package: libc6\nStatus: install ok installed\nArchitecture: amd64\nMulti-Arch: same\nVersion: 2.36-9+deb12u4\n\n"
     "Package: libc6\nStatus: install ok installed\nArchitecture: i386\nMulti-Arch: same\nVersion: 2.36-9+deb12u4\n\n"
     "Package: wine32\nStatus: install ok half-configured\nArchitecture: i386\nVersion: 8.0~repack-4\n\n"
@@ -123,21 +128,21 @@ const char* const dpkgStatus =
 
 TEST(DpkgStatus, InstalledPackagesNamedAsDpkgQueryNamesThem)
 {
-    EXPECT_EQ(pairsOf(tvpolicy::parse::packagesFromDpkgStatus(dpkgStatus)),
-              (Pairs{{"dpkg", "1.21.22"},
-                     {"libc6:amd64", "2.36-9+deb12u4"},
-                     {"libc6:i386", "2.36-9+deb12u4"},
-                     {"wine32:i386", "8.0~repack-4"},
-                     {"tzdata", "2024a-0+deb12u1"},
-                     {"noversion", ""}}));
+    EXPECT_EQ(pairsOf(tvpolicy::parse::packagesFromDpkgStatus(dpkgStatus)), (Pairs{{"dpkg", "1.21.22"},
+                                                                                   {"libc6:amd64", "2.36-9+deb12u4"},
+                                                                                   {"libc6:i386", "2.36-9+deb12u4"},
+                                                                                   {"wine32:i386", "8.0~repack-4"},
+                                                                                   {"tzdata", "2024a-0+deb12u1"},
+                                                                                   {"noversion", ""}}));
     EXPECT_TRUE(tvpolicy::parse::packagesFromDpkgStatus("").empty());
     EXPECT_TRUE(tvpolicy::parse::packagesFromDpkgStatus(std::string("\n\n\0\0Package\n", 12)).empty());
 }
 
 TEST(RpmQuery, NameTabVersionLines)
 {
-    EXPECT_EQ(pairsOf(tvpolicy::parse::packagesFromRpmQuery("bash\t5.2.15-3.fc39\n\nkernel\t1:6.5.6-300.fc39\nlonely\n")),
-              (Pairs{{"bash", "5.2.15-3.fc39"}, {"kernel", "1:6.5.6-300.fc39"}, {"lonely", ""}}));
+    EXPECT_EQ(
+        pairsOf(tvpolicy::parse::packagesFromRpmQuery("bash\t5.2.15-3.fc39\n\nkernel\t1:6.5.6-300.fc39\nlonely\n")),
+        (Pairs{{"bash", "5.2.15-3.fc39"}, {"kernel", "1:6.5.6-300.fc39"}, {"lonely", ""}}));
 }
 
 TEST(ApplicationInventory, GetInstancesReadsTheHostsListing)
@@ -148,7 +153,9 @@ TEST(ApplicationInventory, GetInstancesReadsTheHostsListing)
         Pairs expected;
     };
     for (const Case& c : std::vector<Case>{
-             {Format::PropertyList, profilerOutput, {{"Mail", "4.5"}, {"Tools & <Utilities>", ""}, {"Caf\xC3\xA9", "2.0 (b3)"}}},
+             {Format::PropertyList,
+              profilerOutput,
+              {{"Mail", "4.5"}, {"Tools & <Utilities>", ""}, {"Caf\xC3\xA9", "2.0 (b3)"}}},
              {Format::DpkgStatus, "Package: a\nStatus: install ok installed\nVersion: 1\n", {{"a", "1"}}},
              {Format::RpmQuery, "b\t2-1\n", {{"b", "2-1"}}},
              {Format::None, "Package: a\nVersion: 1\n", {}},
@@ -174,10 +181,12 @@ TEST(ApplicationInventory, FragmentKeepsItsOrderAndCdataRule)
         std::string xml;
     };
     for (const Case& c : std::vector<Case>{
-             {{"Mail", "", "4.5"}, "<app><name><![CDATA[Mail]]></name><version><![CDATA[4.5]]></version><vendor></vendor></app>"},
+             {{"Mail", "", "4.5"},
+              "<app><name><![CDATA[Mail]]></name><version><![CDATA[4.5]]></version><vendor></vendor></app>"},
              {{"A & <B>", "", ""}, "<app><name><![CDATA[A & <B>]]></name><version></version><vendor></vendor></app>"},
              {{"", "V", "1"}, "<app><name></name><version><![CDATA[1]]></version><vendor><![CDATA[V]]></vendor></app>"},
-             {{"x]]>y", "", ""}, "<app><name><![CDATA[x]]]]><![CDATA[>y]]></name><version></version><vendor></vendor></app>"},
+             {{"x]]>y", "", ""},
+              "<app><name><![CDATA[x]]]]><![CDATA[>y]]></name><version></version><vendor></vendor></app>"},
          }) {
         EXPECT_EQ(c.item.toXML(), c.xml);
     }

@@ -1,11 +1,11 @@
 // The notifiers' rules against described sources: the period floor and change rule of the MAC
 // notifier, the IP notifier's log line, payload and end conditions, the power notifier's
 // states, log lines and acknowledgements, and stop() from other threads.
-#include "support/FakeEvents.h"
-#include "support/FakeNetwork.h"
 #include <tvpolicy/host/IPChangeNotifier.h>
 #include <tvpolicy/host/MACChangeNotifier.h>
 #include <tvpolicy/host/PowerChangeNotifier.h>
+#include "support/FakeEvents.h"
+#include "support/FakeNetwork.h"
 
 #include <gtest/gtest.h>
 
@@ -22,15 +22,18 @@ namespace {
 using com::torvane::api::IPChangeNotifier;
 using com::torvane::api::MACChangeNotifier;
 using testing_support::CaptureStream;
+using testing_support::FakeEvents;
 using testing_support::logMessages;
 using tvpolicy::EventProbe;
-using testing_support::FakeEvents;
 using tvpolicy::NetworkProbe;
 using Strings = std::vector<std::string>;
 
 constexpr unsigned upRunning = 0x41;
 
-NetworkProbe::AddressEntry linkEntry(const std::string& name) { return {name, upRunning, NetworkProbe::Family::Link, "", true}; }
+NetworkProbe::AddressEntry linkEntry(const std::string& name)
+{
+    return {name, upRunning, NetworkProbe::Family::Link, "", true};
+}
 
 // A network whose interface list is read from a script, one inventory after another (the last
 // one stays).
@@ -222,9 +225,9 @@ protected:
 TEST_F(PowerNotifierTest, MessagesBecomeStatesLogLinesAndAcknowledgements)
 {
     // Tokens count the messages from 1; 0xE0000010 is a message the notifier does not know.
-    for (std::uint32_t message : std::vector<std::uint32_t>{EventProbe::canSystemSleep, EventProbe::systemWillSleep,
-                                                            EventProbe::systemWillPowerOn, EventProbe::systemHasPoweredOn,
-                                                            0xE0000010}) {
+    for (std::uint32_t message :
+         std::vector<std::uint32_t>{EventProbe::canSystemSleep, EventProbe::systemWillSleep,
+                                    EventProbe::systemWillPowerOn, EventProbe::systemHasPoweredOn, 0xE0000010}) {
         events.pushPowerMessage(message);
     }
     std::vector<int> states;

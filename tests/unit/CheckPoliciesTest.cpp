@@ -58,8 +58,8 @@ protected:
     // Runs a policy whose text uses "@" for the test's folder; the outcome of every section by name.
     std::map<std::string, SectionOutcome> run(const std::string& body, bool& result)
     {
-        auto parsed = testing_support::parsePolicy("<policy name=\"checks\">" + replaceAll(body, "@", tmp.path().string()) +
-                                                   "</policy>");
+        auto parsed = testing_support::parsePolicy("<policy name=\"checks\">" +
+                                                   replaceAll(body, "@", tmp.path().string()) + "</policy>");
         EXPECT_FALSE(parsed.policy->getFatalParseError()) << parsed.out;
         {
             CaptureStream log(std::clog);
@@ -93,17 +93,18 @@ TEST_F(CheckPolicies, EveryKindRunsFromItsElement)
     // The described host answers the script; nothing runs on this machine.
     mapped.host.commandOutputs["echo 2.6.32"] = "2.6.32\n";
     bool result = false;
-    auto outcomes = run(
-        section("file", "<File fileName=\"settings.ini\" startPath=\"@/data\" lastModified=\"2000-1-1\"/>") +
-            section("missing", "<File fileName=\"other.ini\" startPath=\"@/data\"/>") +
-            section("old", "<File fileName=\"settings.ini\" startPath=\"@/data\" lastModified=\"2999-1-1\"/>") +
-            section("version", "<File fileName=\"settings.ini\" startPath=\"@/data\" version=\"1.0\"/>") +
-            section("script", "<VersionFromScript script=\"echo 2.6.32\" required=\"2.6\" delim=\".\"/>") +
-            section("receipt", "<VersionFromReceipt pkg=\"Agent.pkg\" required=\"4.2\" delim=\".\" operation=\"eq\"/>") +
-            section("mcafee", "<McAfeeVirusScanVersion required=\"999\" operation=\"eq\"/>") +
-            section("avast", "<AvastVersion required=\"2011-03-01\" delim=\"-\"/>") +
-            section("no receipt", "<not><VersionFromReceipt pkg=\"Gone.pkg\" required=\"0\" delim=\".\"/></not>"),
-        result);
+    auto outcomes =
+        run(section("file", "<File fileName=\"settings.ini\" startPath=\"@/data\" lastModified=\"2000-1-1\"/>") +
+                section("missing", "<File fileName=\"other.ini\" startPath=\"@/data\"/>") +
+                section("old", "<File fileName=\"settings.ini\" startPath=\"@/data\" lastModified=\"2999-1-1\"/>") +
+                section("version", "<File fileName=\"settings.ini\" startPath=\"@/data\" version=\"1.0\"/>") +
+                section("script", "<VersionFromScript script=\"echo 2.6.32\" required=\"2.6\" delim=\".\"/>") +
+                section("receipt",
+                        "<VersionFromReceipt pkg=\"Agent.pkg\" required=\"4.2\" delim=\".\" operation=\"eq\"/>") +
+                section("mcafee", "<McAfeeVirusScanVersion required=\"999\" operation=\"eq\"/>") +
+                section("avast", "<AvastVersion required=\"2011-03-01\" delim=\"-\"/>") +
+                section("no receipt", "<not><VersionFromReceipt pkg=\"Gone.pkg\" required=\"0\" delim=\".\"/></not>"),
+            result);
     EXPECT_FALSE(result);
     const std::map<std::string, SectionOutcome> expected = {
         {"file", {1, {""}}},

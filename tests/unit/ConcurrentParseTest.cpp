@@ -32,9 +32,9 @@ bool readsOneOfEach(int round)
     auto config = com::torvane::AgentConfigXML::parse(
         "<c xmlns='" + ns + "'><loginUrl>https://l/" + n + "</loginUrl><field name='u" + n +
         "'><type>PASSWORD</type></field><rescanText>a</rescanText><rescanText>b</rescanText></c>");
-    auto status = com::torvane::AgentStatusXML::parse(
-        "<r xmlns='" + ns + "'><status>NEEDS_SCAN</status><scanName>s" + n +
-        "</scanName><profile><SSID>net" + n + "</SSID><securityType>WPA2</securityType></profile></r>");
+    auto status = com::torvane::AgentStatusXML::parse("<r xmlns='" + ns + "'><status>NEEDS_SCAN</status><scanName>s" +
+                                                      n + "</scanName><profile><SSID>net" + n +
+                                                      "</SSID><securityType>WPA2</securityType></profile></r>");
     auto field = com::torvane::LoginField::parse("<field name='f" + n + "'><type>SELECT</type></field>");
     auto broken = com::torvane::AgentConfigXML::parse("<c xmlns='" + ns + "'><loginUrl>x</c>");
     return config->loginUrl == "https://l/" + n && config->rescanText == "b" &&

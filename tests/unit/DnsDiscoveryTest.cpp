@@ -120,22 +120,36 @@ TEST_F(DnsDiscovery, SrvRecordsComeByPriorityThenLowerWeightAndEqualOnesKeepThei
         std::vector<std::string> arrived;
     };
     const std::vector<Case> cases = {
-        {"lower priority first", {srv(10, 0, 443, "b.test"), srv(5, 0, 8443, "a.test")},
-         {"5 0 8443 a.test", "10 0 443 b.test"}, {"10 0 443 b.test", "5 0 8443 a.test"}},
-        {"lower weight first at equal priority", {srv(10, 60, 1, "heavy.test"), srv(10, 20, 2, "light.test")},
-         {"10 20 2 light.test", "10 60 1 heavy.test"}, {"10 60 1 heavy.test", "10 20 2 light.test"}},
-        {"priority before weight", {srv(20, 0, 1, "x.test"), srv(10, 90, 2, "y.test")},
-         {"10 90 2 y.test", "20 0 1 x.test"}, {"20 0 1 x.test", "10 90 2 y.test"}},
+        {"lower priority first",
+         {srv(10, 0, 443, "b.test"), srv(5, 0, 8443, "a.test")},
+         {"5 0 8443 a.test", "10 0 443 b.test"},
+         {"10 0 443 b.test", "5 0 8443 a.test"}},
+        {"lower weight first at equal priority",
+         {srv(10, 60, 1, "heavy.test"), srv(10, 20, 2, "light.test")},
+         {"10 20 2 light.test", "10 60 1 heavy.test"},
+         {"10 60 1 heavy.test", "10 20 2 light.test"}},
+        {"priority before weight",
+         {srv(20, 0, 1, "x.test"), srv(10, 90, 2, "y.test")},
+         {"10 90 2 y.test", "20 0 1 x.test"},
+         {"20 0 1 x.test", "10 90 2 y.test"}},
         {"equal in both: arrival order",
          {srv(1, 5, 1, "c.test"), srv(1, 5, 2, "a.test"), srv(0, 0, 3, "first.test"), srv(1, 5, 3, "b.test")},
          {"0 0 3 first.test", "1 5 1 c.test", "1 5 2 a.test", "1 5 3 b.test"},
          {"1 5 1 c.test", "1 5 2 a.test", "0 0 3 first.test", "1 5 3 b.test"}},
-        {"the sixteen bits of every field", {srv(65535, 65535, 65535, "max.test"), srv(0, 0, 0, "zero.test")},
-         {"0 0 0 zero.test", "65535 65535 65535 max.test"}, {"65535 65535 65535 max.test", "0 0 0 zero.test"}},
+        {"the sixteen bits of every field",
+         {srv(65535, 65535, 65535, "max.test"), srv(0, 0, 0, "zero.test")},
+         {"0 0 0 zero.test", "65535 65535 65535 max.test"},
+         {"65535 65535 65535 max.test", "0 0 0 zero.test"}},
         {"records of other types, classes or too short are passed over",
-         {Answer{5, {0, 1, 2}}, Answer{33, {0, 1, 0, 2}}, [] { Answer a = srv(1, 1, 1, "chaos.test"); a.klass = 3; return a; }(),
+         {Answer{5, {0, 1, 2}}, Answer{33, {0, 1, 0, 2}},
+          [] {
+              Answer a = srv(1, 1, 1, "chaos.test");
+              a.klass = 3;
+              return a;
+          }(),
           srv(3, 3, 3, "kept.test")},
-         {"3 3 3 kept.test"}, {"3 3 3 kept.test"}},
+         {"3 3 3 kept.test"},
+         {"3 3 3 kept.test"}},
         {"no answer", {}, {}, {}},
     };
     for (const Case& c : cases) {
@@ -147,8 +161,9 @@ TEST_F(DnsDiscovery, SrvRecordsComeByPriorityThenLowerWeightAndEqualOnesKeepThei
 
 TEST_F(DnsDiscovery, TargetsAreDecompressedAndLongOnesCut)
 {
-    Answer pointer{33, {0, 1, 0, 2, 0x01, 0xbb, 3, 's', 'r', 'v', 0xc0, 0x18}};  // "srv" + the question's "example.test"
-    std::string oddLabel(63, '\x01');  // each byte written as \001
+    Answer pointer{33,
+                   {0, 1, 0, 2, 0x01, 0xbb, 3, 's', 'r', 'v', 0xc0, 0x18}};  // "srv" + the question's "example.test"
+    std::string oddLabel(63, '\x01');                                        // each byte written as \001
     std::string shown;
     for (int i = 0; i < 63; ++i) {
         shown += "\\001";
@@ -176,8 +191,12 @@ TEST_F(DnsDiscovery, MalformedMessagesGiveNoRecords)
     const std::vector<Bytes> messages = {
         {},
         {0x12},
-        Bytes(good.begin(), good.end() - 3),                     // the record data cut short
-        [&] { Bytes b = good; b[7] = 9; return b; }(),           // claims nine answers
+        Bytes(good.begin(), good.end() - 3),  // the record data cut short
+        [&] {
+            Bytes b = good;
+            b[7] = 9;
+            return b;
+        }(),  // claims nine answers
         Bytes(512, 0xff),
     };
     for (const Bytes& message : messages) {
@@ -207,13 +226,14 @@ TEST_F(DnsDiscovery, QueriesAskTheServiceNameWithTheKindsTypeAndTheGivenServer)
 
 TEST_F(DnsDiscovery, TxtItemsWithAValueBecomeKeyValueTextsInOrder)
 {
-    host.dnsAnswers[{queryName, 16}] = reply(
-        {txt({"x=1", "novalue", "empty=", "=anonymous"}), txt({std::string("bin=a\0b", 7), std::string(254, 'k') + "=", "port=443"}),
-         Answer{16, {5, 'a', '=', 'b'}}},  // an item running past its record
-        16);
+    host.dnsAnswers[{queryName, 16}] =
+        reply({txt({"x=1", "novalue", "empty=", "=anonymous"}),
+               txt({std::string("bin=a\0b", 7), std::string(254, 'k') + "=", "port=443"}),
+               Answer{16, {5, 'a', '=', 'b'}}},  // an item running past its record
+              16);
     std::shared_ptr<TXTRecord> record = TXTRecord::lookup("agent", "tcp", "example.test");
-    std::list<std::string> expected = {"x=1", "empty=", "=anonymous", std::string("bin=a\0b", 7),
-                                       std::string(254, 'k') + "=", "port=443"};
+    std::list<std::string> expected = {
+        "x=1", "empty=", "=anonymous", std::string("bin=a\0b", 7), std::string(254, 'k') + "=", "port=443"};
     EXPECT_EQ(record->getRawData(), expected);
 }
 
@@ -250,12 +270,18 @@ TEST(NameServerText, IsAnIpv4AddressWithAnOptionalPort)
         std::uint16_t port;
     };
     const std::vector<Case> cases = {
-        {"127.0.0.1", true, "127.0.0.1", 53},      {"10.1.2.3:5353", true, "10.1.2.3", 5353},
-        {"127.0.0.1:65535", true, "127.0.0.1", 65535}, {"127.0.0.1:0", false, "", 0},
-        {"127.0.0.1:65536", false, "", 0},         {"127.0.0.1:", false, "", 0},
-        {"127.0.0.1:5x", false, "", 0},            {"127.0.0.1:-1", false, "", 0},
-        {"ns.example.test", false, "", 0},         {"::1", false, "", 0},
-        {"", false, "", 0},                        {"127.0.0.1:99999999999999999999", false, "", 0},
+        {"127.0.0.1", true, "127.0.0.1", 53},
+        {"10.1.2.3:5353", true, "10.1.2.3", 5353},
+        {"127.0.0.1:65535", true, "127.0.0.1", 65535},
+        {"127.0.0.1:0", false, "", 0},
+        {"127.0.0.1:65536", false, "", 0},
+        {"127.0.0.1:", false, "", 0},
+        {"127.0.0.1:5x", false, "", 0},
+        {"127.0.0.1:-1", false, "", 0},
+        {"ns.example.test", false, "", 0},
+        {"::1", false, "", 0},
+        {"", false, "", 0},
+        {"127.0.0.1:99999999999999999999", false, "", 0},
     };
     for (const Case& c : cases) {
         std::optional<tvpolicy::NameServer> server = tvpolicy::NameServer::parse(c.text);

@@ -79,41 +79,73 @@ TEST_P(FileTaskRules, Perform)
     EXPECT_EQ(run.response->detail, "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Attributes, FileTaskRules, testing::Values(
-    FileCase{"Found", {{"fileName", "tool.cfg"}, {"startPath", "@/apps"}}, true, ""},
-    FileCase{"StartIsTheFilesFolder", {{"fileName", "tool.cfg"}, {"startPath", "@/apps/Tool/bin"}}, true, ""},
-    FileCase{"Missing", {{"fileName", "none.cfg"}, {"startPath", "@/apps"}}, false, "FileTask/File Not Found"},
-    FileCase{"ADirectoryIsNoFile", {{"fileName", "Folder.app"}, {"startPath", "@"}}, false, "FileTask/File Not Found"},
-    FileCase{"NamesAreCaseSensitive", {{"fileName", "TOOL.CFG"}, {"startPath", "@"}}, false, "FileTask/File Not Found"},
-    FileCase{"MissingStart", {{"fileName", "tool.cfg"}, {"startPath", "@/nowhere"}}, false, "FileTask/File Not Found"},
-    // A start that cannot be listed is an error of the walk, reported as not found.
-    FileCase{"StartIsAFile", {{"fileName", "tool.cfg"}, {"startPath", "@/launch.sh"}}, false, "FileTask/File Not Found"},
-    FileCase{"UnknownAttributesIgnored", {{"FileName", "x"}, {"fileName", "tool.cfg"}, {"startpath", "/nowhere"},
-                                          {"startPath", "@"}}, true, ""},
-    FileCase{"RepeatedAttributeOverwrites", {{"fileName", "none"}, {"fileName", "tool.cfg"}, {"startPath", "@"}}, true, ""},
-    // Dates compare year, month and day as numbers.
-    FileCase{"NewEnough", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2011-03-15"}}, true, ""},
-    FileCase{"NewEnoughUnpadded", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2011-3-9"}}, true, ""},
-    FileCase{"OlderRequirement", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2010-12-31"}}, true, ""},
-    FileCase{"TooOld", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2011-03-16"}},
-             false, "FileTask/Too Old: 2011-03-15"},
-    FileCase{"TooOldByAYear", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2012-1-1"}},
-             false, "FileTask/Too Old: 2011-03-15"},
-    // Without a file the newest date is 0-0-0: any real date fails, 0-0-0 itself passes.
-    FileCase{"NoFileAnyDate", {{"fileName", "none"}, {"startPath", "@"}, {"lastModified", "1970-1-1"}},
-             false, "FileTask/Too Old: 0-0-0"},
-    FileCase{"NoFileZeroDate", {{"fileName", "none"}, {"startPath", "@"}, {"lastModified", "0-0-0"}},
-             true, "FileTask/File Not Found"},
-    // The version of a file is always 0.0.0.0; the message tells it whatever the outcome.
-    FileCase{"VersionAboveZero", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"version", "1.0"}},
-             false, "FileTask/File Version: 0.0.0.0"},
-    FileCase{"VersionZero", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"version", "0,0"}},
-             true, "FileTask/File Version: 0.0.0.0"},
-    FileCase{"VersionDecidesAlone", {{"fileName", "none"}, {"startPath", "@"}, {"version", "0"}},
-             true, "FileTask/File Not FoundFileTask/File Version: 0.0.0.0"},
-    FileCase{"DateThenVersion", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2099-1-1"},
-                                 {"version", "0.0.0.1"}},
-             false, "FileTask/Too Old: 2011-03-15FileTask/File Version: 0.0.0.0"}),
+INSTANTIATE_TEST_SUITE_P(
+    Attributes, FileTaskRules,
+    testing::Values(
+        FileCase{"Found", {{"fileName", "tool.cfg"}, {"startPath", "@/apps"}}, true, ""},
+        FileCase{"StartIsTheFilesFolder", {{"fileName", "tool.cfg"}, {"startPath", "@/apps/Tool/bin"}}, true, ""},
+        FileCase{"Missing", {{"fileName", "none.cfg"}, {"startPath", "@/apps"}}, false, "FileTask/File Not Found"},
+        FileCase{
+            "ADirectoryIsNoFile", {{"fileName", "Folder.app"}, {"startPath", "@"}}, false, "FileTask/File Not Found"},
+        FileCase{
+            "NamesAreCaseSensitive", {{"fileName", "TOOL.CFG"}, {"startPath", "@"}}, false, "FileTask/File Not Found"},
+        FileCase{
+            "MissingStart", {{"fileName", "tool.cfg"}, {"startPath", "@/nowhere"}}, false, "FileTask/File Not Found"},
+        // A start that cannot be listed is an error of the walk, reported as not found.
+        FileCase{
+            "StartIsAFile", {{"fileName", "tool.cfg"}, {"startPath", "@/launch.sh"}}, false, "FileTask/File Not Found"},
+        FileCase{"UnknownAttributesIgnored",
+                 {{"FileName", "x"}, {"fileName", "tool.cfg"}, {"startpath", "/nowhere"}, {"startPath", "@"}},
+                 true,
+                 ""},
+        FileCase{"RepeatedAttributeOverwrites",
+                 {{"fileName", "none"}, {"fileName", "tool.cfg"}, {"startPath", "@"}},
+                 true,
+                 ""},
+        // Dates compare year, month and day as numbers.
+        FileCase{"NewEnough", {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2011-03-15"}}, true, ""},
+        FileCase{"NewEnoughUnpadded",
+                 {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2011-3-9"}},
+                 true,
+                 ""},
+        FileCase{"OlderRequirement",
+                 {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2010-12-31"}},
+                 true,
+                 ""},
+        FileCase{"TooOld",
+                 {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2011-03-16"}},
+                 false,
+                 "FileTask/Too Old: 2011-03-15"},
+        FileCase{"TooOldByAYear",
+                 {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2012-1-1"}},
+                 false,
+                 "FileTask/Too Old: 2011-03-15"},
+        // Without a file the newest date is 0-0-0: any real date fails, 0-0-0 itself passes.
+        FileCase{"NoFileAnyDate",
+                 {{"fileName", "none"}, {"startPath", "@"}, {"lastModified", "1970-1-1"}},
+                 false,
+                 "FileTask/Too Old: 0-0-0"},
+        FileCase{"NoFileZeroDate",
+                 {{"fileName", "none"}, {"startPath", "@"}, {"lastModified", "0-0-0"}},
+                 true,
+                 "FileTask/File Not Found"},
+        // The version of a file is always 0.0.0.0; the message tells it whatever the outcome.
+        FileCase{"VersionAboveZero",
+                 {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"version", "1.0"}},
+                 false,
+                 "FileTask/File Version: 0.0.0.0"},
+        FileCase{"VersionZero",
+                 {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"version", "0,0"}},
+                 true,
+                 "FileTask/File Version: 0.0.0.0"},
+        FileCase{"VersionDecidesAlone",
+                 {{"fileName", "none"}, {"startPath", "@"}, {"version", "0"}},
+                 true,
+                 "FileTask/File Not FoundFileTask/File Version: 0.0.0.0"},
+        FileCase{"DateThenVersion",
+                 {{"fileName", "tool.cfg"}, {"startPath", "@"}, {"lastModified", "2099-1-1"}, {"version", "0.0.0.1"}},
+                 false,
+                 "FileTask/Too Old: 2011-03-15FileTask/File Version: 0.0.0.0"}),
     [](const testing::TestParamInfo<FileCase>& testCase) { return testCase.param.name; });
 
 TEST(FileTask, ExecuteNeverStartsTheFile)
@@ -173,8 +205,9 @@ TEST(FileTask, DescribedHostSearchesStayInsideItsFolder)
     host.pathMap[""] = host.pathMap["/"];
     tvpolicy::ScopedHost described(host);
     const std::vector<std::pair<std::string, bool>> cases = {
-        {"/../outside", false}, {"//:/etc/../../outside", false}, {"../outside", false},
-        {"/../../../etc", true}, {"etc", true}, {"", true},
+        {"/../outside", false}, {"//:/etc/../../outside", false},
+        {"../outside", false},  {"/../../../etc", true},
+        {"etc", true},          {"", true},
     };
     for (const auto& [start, found] : cases) {
         File file("marker", false, "", start);

@@ -39,9 +39,11 @@ TEST(VBoxGuests, AdaptersAreNumberedPerMachineAndKeyedByTheRawAddress)
     const std::string as501 = "sudo -u \\#501 /usr/bin/VBoxManage ";
     d.net.outputs[as501 + "list runningvms"] =
         "\"Windows 10\" {0b1d2f3e-aaaa-4bbb-8ccc-000000000001}\n\"ubuntu\" {0b1d2f3e-aaaa-4bbb-8ccc-000000000002}\n";
-    d.net.outputs[as501 + "showvminfo --machinereadable {0b1d2f3e-aaaa-4bbb-8ccc-000000000001}| /usr/bin/grep ^macaddress"] =
+    d.net.outputs[as501 +
+                  "showvminfo --machinereadable {0b1d2f3e-aaaa-4bbb-8ccc-000000000001}| /usr/bin/grep ^macaddress"] =
         "macaddress1=\"080027ABCDEF\"\nmacaddress2=\"\"\nmacaddress3=\"080027000003\"\n";
-    d.net.outputs[as501 + "showvminfo --machinereadable {0b1d2f3e-aaaa-4bbb-8ccc-000000000002}| /usr/bin/grep ^macaddress"] =
+    d.net.outputs[as501 +
+                  "showvminfo --machinereadable {0b1d2f3e-aaaa-4bbb-8ccc-000000000002}| /usr/bin/grep ^macaddress"] =
         "macaddress1=\"080027000010\"\r\n";
     Guests guests;
     guests.map["080027ABCDEF"] = new NetworkInterface();  // an older entry is replaced
@@ -59,8 +61,8 @@ TEST(VBoxGuests, AdaptersAreNumberedPerMachineAndKeyedByTheRawAddress)
     EXPECT_EQ(guests.map.at("080027000003")->getName(), "VirtualBox Guest0:1");  // the empty one is not counted
     EXPECT_EQ(guests.map.at("080027000010")->getName(), "VirtualBox Guest1:0");
     EXPECT_EQ(logMessages(log.text()),
-              (std::vector<std::string>{"MAC = 080027ABCDEF", "Formatted MAC = 08:00:27:AB:CD:EF", "MAC = ",
-                                        "MAC = 080027000003", "Formatted MAC = 08:00:27:00:00:03",
+              (std::vector<std::string>{"MAC = 080027ABCDEF", "Formatted MAC = 08:00:27:AB:CD:EF",
+                                        "MAC = ", "MAC = 080027000003", "Formatted MAC = 08:00:27:00:00:03",
                                         "MAC = 080027000010", "Formatted MAC = 08:00:27:00:00:10"}));
 }
 
@@ -69,11 +71,14 @@ TEST(VMwareGuests, VmxFilesOfTheListedMachinesGiveNormalisedKeys)
     DescribedNetwork d;
     describeTools(d);
     testing_support::TempDir tmp;
-    std::string first = tmp.write("My VMs/one.vmx",
-        "# comment = \"x\"\nethernet0.present = \"TRUE\"\nethernet0.addressType = \"generated\"\n"
-        "ethernet0.generatedAddress = \"00:0c:29:aa:bb:cc\"\nethernet1.addressType = \"static\"\n"
-        "ethernet1.address = \"00:50:56:0a:0b:0c\"\n").string();
-    std::string second = tmp.write("two.vmx", "ethernet0.addressType=\"static\"\nethernet0.address=\"00:50:56:00:00:01\"\n").string();
+    std::string first =
+        tmp.write("My VMs/one.vmx",
+                  "# comment = \"x\"\nethernet0.present = \"TRUE\"\nethernet0.addressType = \"generated\"\n"
+                  "ethernet0.generatedAddress = \"00:0c:29:aa:bb:cc\"\nethernet1.addressType = \"static\"\n"
+                  "ethernet1.address = \"00:50:56:0a:0b:0c\"\n")
+            .string();
+    std::string second =
+        tmp.write("two.vmx", "ethernet0.addressType=\"static\"\nethernet0.address=\"00:50:56:00:00:01\"\n").string();
     d.net.outputs[vmwareUsers] = "0\n";
     d.net.outputs["sudo -u \\#0 /usr/bin/vmrun -T ws list"] = "Error: VIX_SERVICEPROVIDER_VMWARE_WORKSTATION\n";
     d.net.outputs["sudo -u \\#0 /usr/bin/vmrun -T player list"] =
@@ -109,18 +114,19 @@ TEST(VmxFile, GeneratedThenStaticInPrefixOrder)
 {
     testing_support::TempDir tmp;
     std::string path = tmp.write("guest.vmx",
-        "ethernet1.addressType = \"static\"\n"
-        "ethernet1.address = \"00:50:56:ab:cd:ef\"\n"
-        "ethernet0.addressType = \"generated\"\n"
-        "ethernet0.generatedAddress = \"00:0c:29:12:34:56\"\n"
-        "ethernet2.addressType = \"vpx\"\n"
-        "ethernet2.generatedAddress = \"00:0c:29:99:99:99\"\n"
-        "ethernet3.addressType = \"Static\"\n"
-        "ethernet3.address = \"00:50:56:00:00:03\"\n"
-        "#ethernet4.addressType = \"static\"\n"
-        "ethernet5.addressType = \"static\"\n"
-        "ethernet5.addressType = \"generated\"\n"
-        "ethernet5.generatedAddress = \"00:0c:29:00:00:05\"\n").string();
+                                 "ethernet1.addressType = \"static\"\n"
+                                 "ethernet1.address = \"00:50:56:ab:cd:ef\"\n"
+                                 "ethernet0.addressType = \"generated\"\n"
+                                 "ethernet0.generatedAddress = \"00:0c:29:12:34:56\"\n"
+                                 "ethernet2.addressType = \"vpx\"\n"
+                                 "ethernet2.generatedAddress = \"00:0c:29:99:99:99\"\n"
+                                 "ethernet3.addressType = \"Static\"\n"
+                                 "ethernet3.address = \"00:50:56:00:00:03\"\n"
+                                 "#ethernet4.addressType = \"static\"\n"
+                                 "ethernet5.addressType = \"static\"\n"
+                                 "ethernet5.addressType = \"generated\"\n"
+                                 "ethernet5.generatedAddress = \"00:0c:29:00:00:05\"\n")
+                           .string();
     std::vector<std::string> macs{"keep"};
     com::torvane::api::getAddressesFromVMXFile(path, macs);
     EXPECT_EQ(macs, (std::vector<std::string>{"keep", "00:0c:29:12:34:56", "00:50:56:AB:CD:EF", "00:0c:29:00:00:05"}));
@@ -132,14 +138,9 @@ TEST(VmxFile, GeneratedThenStaticInPrefixOrder)
 TEST(GuestToolText, VmxLinesSplitAtTheFirstBlankEqualsElseEquals)
 {
     const std::vector<std::pair<std::string, parse::VmxEntry>> cases = {
-        {"a.b = \"x\"", {"a.b", "x"}},
-        {"a.b=\"x\"", {"a.b", "x"}},
-        {"a=b = \"x\"", {"a=b", "x"}},
-        {"a = \"x\" \"y\"", {"a", "x"}},
-        {"a = x", {"a", ""}},
-        {"a = \"unterminated", {"a", ""}},
-        {"novalue", {"novalue", ""}},
-        {"a = \"x\"\r", {"a", "x"}},
+        {"a.b = \"x\"", {"a.b", "x"}},   {"a.b=\"x\"", {"a.b", "x"}}, {"a=b = \"x\"", {"a=b", "x"}},
+        {"a = \"x\" \"y\"", {"a", "x"}}, {"a = x", {"a", ""}},        {"a = \"unterminated", {"a", ""}},
+        {"novalue", {"novalue", ""}},    {"a = \"x\"\r", {"a", "x"}},
     };
     for (const auto& [line, entry] : cases) {
         std::vector<parse::VmxEntry> entries = parse::vmxEntries(line);

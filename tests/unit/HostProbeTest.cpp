@@ -29,8 +29,10 @@ TEST(DescribedHostProbe, LongestPrefixWins)
     DescribedHostProbe host;
     host.pathMap = {{"/Library/", "/tmp/lib/"}, {"/Library/Receipts/", "/tmp/r/"}};
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"/Library/Receipts/A.pkg", "/tmp/r/A.pkg"}, {"/Library/Other", "/tmp/lib/Other"},
-        {"/usr/local/vscanx/dats", "/usr/local/vscanx/dats"}, {"/Library", "/Library"}};
+        {"/Library/Receipts/A.pkg", "/tmp/r/A.pkg"},
+        {"/Library/Other", "/tmp/lib/Other"},
+        {"/usr/local/vscanx/dats", "/usr/local/vscanx/dats"},
+        {"/Library", "/Library"}};
     for (const auto& [path, mapped] : cases) {
         EXPECT_EQ(host.systemPath(path), mapped);
     }

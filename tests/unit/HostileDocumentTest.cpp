@@ -32,7 +32,10 @@ using testing_support::repeat;
 
 std::string nested(int depth) { return testing_support::nested("e", depth, "x"); }
 std::string withAttributes(int count) { return "<e" + testing_support::numberedAttributes(count) + "/>"; }
-std::string billionLaughs() { return testing_support::entityBomb("r", 9) + "<r xmlns='" + ns + "'><junk>&l9;</junk></r>"; }
+std::string billionLaughs()
+{
+    return testing_support::entityBomb("r", 9) + "<r xmlns='" + ns + "'><junk>&l9;</junk></r>";
+}
 
 struct LimitCase {
     std::string name;
@@ -55,23 +58,30 @@ TEST_P(DocumentLimitTest, RefusesOnlyWhatPassesTheLimits)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Limits, DocumentLimitTest, testing::Values(
-    LimitCase{"at the depth limit", nested(tvpolicy::xml::maxElementDepth), true, false},
-    LimitCase{"one deeper", nested(tvpolicy::xml::maxElementDepth + 1), false, true},
-    LimitCase{"100000 deep", nested(100000), false, true},
-    LimitCase{"deep through an entity",
-              "<!DOCTYPE e [<!ENTITY d '" + nested(300) + "'>]><e>&d;</e>", false, true},
-    LimitCase{"many empty siblings", "<e>" + repeat("<e/>", 5000) + "</e>", true, false},
-    LimitCase{"attributes at the limit", withAttributes(tvpolicy::xml::maxAttributesPerElement), true, false},
-    LimitCase{"one attribute more", withAttributes(tvpolicy::xml::maxAttributesPerElement + 1), false, true},
-    // Expansion stops at the limit; what was read before the fatal error stays.
-    LimitCase{"billion laughs", billionLaughs(), true, true}),
-    [](const auto& testCase) { std::string n = testCase.param.name; for (char& ch : n) if (!isalnum(ch)) ch = '_'; return n; });
+INSTANTIATE_TEST_SUITE_P(
+    Limits, DocumentLimitTest,
+    testing::Values(
+        LimitCase{"at the depth limit", nested(tvpolicy::xml::maxElementDepth), true, false},
+        LimitCase{"one deeper", nested(tvpolicy::xml::maxElementDepth + 1), false, true},
+        LimitCase{"100000 deep", nested(100000), false, true},
+        LimitCase{"deep through an entity", "<!DOCTYPE e [<!ENTITY d '" + nested(300) + "'>]><e>&d;</e>", false, true},
+        LimitCase{"many empty siblings", "<e>" + repeat("<e/>", 5000) + "</e>", true, false},
+        LimitCase{"attributes at the limit", withAttributes(tvpolicy::xml::maxAttributesPerElement), true, false},
+        LimitCase{"one attribute more", withAttributes(tvpolicy::xml::maxAttributesPerElement + 1), false, true},
+        // Expansion stops at the limit; what was read before the fatal error stays.
+        LimitCase{"billion laughs", billionLaughs(), true, true}),
+    [](const auto& testCase) {
+        std::string n = testCase.param.name;
+        for (char& ch : n)
+            if (!isalnum(ch))
+                ch = '_';
+        return n;
+    });
 
 TEST(HostileDocument, ReadersFallBackToTheirDefaults)
 {
-    for (const std::string& text : {nested(100000), billionLaughs(), std::string("\xff\xfe\x00<r", 5),
-                                    std::string("<"), std::string(""), std::string("\x01\x02 not xml")}) {
+    for (const std::string& text : {nested(100000), billionLaughs(), std::string("\xff\xfe\x00<r", 5), std::string("<"),
+                                    std::string(""), std::string("\x01\x02 not xml")}) {
         CaptureStream log(std::clog);
         auto config = com::torvane::AgentConfigXML::parse(text);
         ASSERT_TRUE(config);
@@ -106,11 +116,19 @@ TEST(HostileDocument, EveryReaderRefusesATextOverTheSizeCap)
         {"configuration", "<c xmlns='" + ns + "'><loginUrl>u</loginUrl></c>",
          [](const std::string& text) { return AgentConfigXML::parse(text)->loginUrl == "u"; }},
         {"status", "<r xmlns='" + ns + "'><status>NEEDS_SCAN</status></r>",
-         [](const std::string& text) { return AgentStatusXML::parse(text)->getStatus() == AgentStatusXML::NEEDS_SCAN; }},
+         [](const std::string& text) {
+             return AgentStatusXML::parse(text)->getStatus() == AgentStatusXML::NEEDS_SCAN;
+         }},
         {"login field", "<field xmlns='" + ns + "' name='f'/>",
-         [](const std::string& text) { auto field = LoginField::parse(text); return field && field->getName() == "f"; }},
+         [](const std::string& text) {
+             auto field = LoginField::parse(text);
+             return field && field->getName() == "f";
+         }},
         {"profile", "<profile xmlns='" + ns + "'><SSID>s</SSID></profile>",
-         [](const std::string& text) { auto profile = WifiConfigurationProfile::parse(text); return profile && profile->getSSID() == "s"; }},
+         [](const std::string& text) {
+             auto profile = WifiConfigurationProfile::parse(text);
+             return profile && profile->getSSID() == "s";
+         }},
         {"monitor document", "<m><Monitor id='m'/></m>",
          [](const std::string& text) {
              std::unique_ptr<std::list<policy::Monitor*>> monitors(policy::Monitor::parseMonitors(text));

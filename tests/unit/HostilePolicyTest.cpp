@@ -96,9 +96,10 @@ class DeepNestingTest : public testing::TestWithParam<DeepCase> {};
 TEST_P(DeepNestingTest, IsRefusedWithTheConfigurationError)
 {
     const DeepCase& c = GetParam();
-    std::string xml = "<policy name=\"deep\">\n<section name=\"ok\" primary=\"true\"><true/></section>\n"
-                      "<section name=\"deep\" primary=\"true\">\n" +
-                      nested(c.element, c.depth, c.inner) + "\n</section></policy>";
+    std::string xml =
+        "<policy name=\"deep\">\n<section name=\"ok\" primary=\"true\"><true/></section>\n"
+        "<section name=\"deep\" primary=\"true\">\n" +
+        nested(c.element, c.depth, c.inner) + "\n</section></policy>";
     auto parsed = parsePolicy(xml);
     ASSERT_TRUE(parsed.policy->getFatalParseError());
     EXPECT_EQ(parsed.policy->getFatalErrorMsg(), "A configuration error has occurred at line: 4");
@@ -108,12 +109,12 @@ TEST_P(DeepNestingTest, IsRefusedWithTheConfigurationError)
     EXPECT_TRUE(parsed.policy->run());  // the cut-off section holds no task yet, so both pass
 }
 
-INSTANTIATE_TEST_SUITE_P(Trees, DeepNestingTest, testing::Values(
-    DeepCase{"And", "and", 200000, "<true/>"},
-    DeepCase{"Or", "or", 200000, "<true/>"},
-    DeepCase{"Not", "not", 200000, "<false/>"},
-    DeepCase{"UnknownElements", "x", 200000, ""}),
-    [](const testing::TestParamInfo<DeepCase>& testCase) { return testCase.param.title; });
+INSTANTIATE_TEST_SUITE_P(Trees, DeepNestingTest,
+                         testing::Values(DeepCase{"And", "and", 200000, "<true/>"},
+                                         DeepCase{"Or", "or", 200000, "<true/>"},
+                                         DeepCase{"Not", "not", 200000, "<false/>"},
+                                         DeepCase{"UnknownElements", "x", 200000, ""}),
+                         [](const testing::TestParamInfo<DeepCase>& testCase) { return testCase.param.title; });
 
 TEST(HostilePolicy, NestingWithinTheBoundIsEvaluated)
 {
@@ -124,7 +125,8 @@ TEST(HostilePolicy, NestingWithinTheBoundIsEvaluated)
         open += std::string("<") + kinds[i % 3] + ">";
         close = std::string("</") + kinds[i % 3] + ">" + close;
     }
-    auto parsed = parsePolicy("<policy><section name=\"s\" primary=\"true\">" + open + "<true/>" + close + "</section></policy>");
+    auto parsed =
+        parsePolicy("<policy><section name=\"s\" primary=\"true\">" + open + "<true/>" + close + "</section></policy>");
     ASSERT_FALSE(parsed.policy->getFatalParseError()) << parsed.out;
     CaptureStream log(std::clog);
     // 333 nots around a passing check, with and/or in between: an odd number of inversions fails.
@@ -142,8 +144,9 @@ TEST(HostilePolicy, TooManyAttributesAreRefused)
 
 TEST(HostilePolicy, OddBytesAreAParseErrorNotACrash)
 {
-    for (std::string body : {std::string("<policy>\n<a>\xff\xfe\x00\x01</a></policy>", 30), std::string("<policy>\n\x00\x00</policy>", 21),
-                             std::string("<policy name=\"\xc3\x28\">\n</policy>")}) {
+    for (std::string body :
+         {std::string("<policy>\n<a>\xff\xfe\x00\x01</a></policy>", 30), std::string("<policy>\n\x00\x00</policy>", 21),
+          std::string("<policy name=\"\xc3\x28\">\n</policy>")}) {
         auto parsed = parsePolicy(body);
         EXPECT_TRUE(parsed.policy->getFatalParseError());
     }

@@ -68,8 +68,8 @@ TEST(InterfaceAddressList, EntriesKeepOrderFamilyAndAddressText)
         .add("en0", IFF_UP | IFF_RUNNING, AF_INET, "10.0.0.5")
         .add("en0", IFF_UP | IFF_RUNNING, AF_INET6, "fe80::1")
         .add("utun0", 0xD1, AF_INET6, "2001:db8::a:b")
-        .add("gif0", 0, AF_UNIX)   // a family the walk does not know
-        .add("stf0", 0, -1)        // no address at all
+        .add("gif0", 0, AF_UNIX)  // a family the walk does not know
+        .add("stf0", 0, -1)       // no address at all
         .add(nullptr, 0, AF_INET, "192.0.2.1");
 
     struct Expected {

@@ -32,7 +32,12 @@ struct Journal {
 class ScriptedTask : public Task {
 public:
     ScriptedTask(Journal& journal, std::string message, bool passes, bool skips)
-        : journal_(journal), message_(std::move(message)), passes_(passes), skips_(skips) {}
+        : journal_(journal),
+          message_(std::move(message)),
+          passes_(passes),
+          skips_(skips)
+    {
+    }
     ~ScriptedTask() override { ++journal_.destroyed; }
     void setAttribute(Attribute*) override {}
     TaskResponse* perform() override
@@ -129,7 +134,8 @@ TEST_P(LogicTreeTest, PerformsAsTheLogicSays)
     EXPECT_EQ(response->skip, c.skip);
     EXPECT_EQ(response->message, c.message);
     EXPECT_EQ(journal.performed, c.performed);
-    int leaves = static_cast<int>(std::count_if(c.tree.begin(), c.tree.end(), [](char ch) { return std::isupper(ch); }));
+    int leaves =
+        static_cast<int>(std::count_if(c.tree.begin(), c.tree.end(), [](char ch) { return std::isupper(ch); }));
     root.reset();
     EXPECT_EQ(journal.destroyed, leaves);
 }
@@ -137,24 +143,34 @@ TEST_P(LogicTreeTest, PerformsAsTheLogicSays)
 const std::string leafPassed = "Debug: ScriptedTask Passed\n";
 const std::string leafFailed = "Debug: ScriptedTask Failed\n";
 
-INSTANTIATE_TEST_SUITE_P(Trees, LogicTreeTest, testing::Values(
-    TreeCase{"and(P,F,P)", false, false, "andTask/F2", {"P1", "F2"}, leafPassed + leafFailed},
-    TreeCase{"and()", true, false, "", {}, ""},
-    TreeCase{"andskip(P,P)", true, true, "", {"P1", "P2"}, leafPassed + leafPassed},
-    TreeCase{"andskip(P,F)", false, false, "andTask/F2", {"P1", "F2"}, leafPassed + leafFailed},
-    TreeCase{"and(K)", true, false, "", {"K1"}, leafPassed},
-    TreeCase{"or(F,P,F)", true, false, "orTask/F1", {"F1", "P2"}, leafFailed + leafPassed},
-    TreeCase{"or(F,F)", false, false, "orTask/F1,orTask/F2", {"F1", "F2"}, leafFailed + leafFailed},
-    TreeCase{"or()", false, false, "", {}, ""},
-    TreeCase{"or(X,F)", false, true, "orTask/X1,orTask/F2", {"X1", "F2"}, leafFailed + leafFailed},
-    TreeCase{"or(F,K)", true, true, "orTask/F1", {"F1", "K2"}, leafFailed + leafPassed},
-    TreeCase{"not(P)", false, false, "notTask/P1", {"P1"}, leafFailed},
-    TreeCase{"not(F)", true, false, "notTask/F1", {"F1"}, leafPassed},
-    TreeCase{"not(X)", true, true, "notTask/X1", {"X1"}, leafPassed},
-    TreeCase{"and(P,not(P))", false, false, "andTask/notTask/P2", {"P1", "P2"},
-             leafPassed + leafFailed + "Debug: notTask Failed\n"},
-    TreeCase{"or(and(P,F),not(F))", true, false, "orTask/andTask/F2", {"P1", "F2", "F3"},
-             leafPassed + leafFailed + "Debug: andTask Failed\n" + leafPassed + "Debug: notTask Passed\n"}));
+INSTANTIATE_TEST_SUITE_P(
+    Trees, LogicTreeTest,
+    testing::Values(TreeCase{"and(P,F,P)", false, false, "andTask/F2", {"P1", "F2"}, leafPassed + leafFailed},
+                    TreeCase{"and()", true, false, "", {}, ""},
+                    TreeCase{"andskip(P,P)", true, true, "", {"P1", "P2"}, leafPassed + leafPassed},
+                    TreeCase{"andskip(P,F)", false, false, "andTask/F2", {"P1", "F2"}, leafPassed + leafFailed},
+                    TreeCase{"and(K)", true, false, "", {"K1"}, leafPassed},
+                    TreeCase{"or(F,P,F)", true, false, "orTask/F1", {"F1", "P2"}, leafFailed + leafPassed},
+                    TreeCase{"or(F,F)", false, false, "orTask/F1,orTask/F2", {"F1", "F2"}, leafFailed + leafFailed},
+                    TreeCase{"or()", false, false, "", {}, ""},
+                    TreeCase{"or(X,F)", false, true, "orTask/X1,orTask/F2", {"X1", "F2"}, leafFailed + leafFailed},
+                    TreeCase{"or(F,K)", true, true, "orTask/F1", {"F1", "K2"}, leafFailed + leafPassed},
+                    TreeCase{"not(P)", false, false, "notTask/P1", {"P1"}, leafFailed},
+                    TreeCase{"not(F)", true, false, "notTask/F1", {"F1"}, leafPassed},
+                    TreeCase{"not(X)", true, true, "notTask/X1", {"X1"}, leafPassed},
+                    TreeCase{"and(P,not(P))",
+                             false,
+                             false,
+                             "andTask/notTask/P2",
+                             {"P1", "P2"},
+                             leafPassed + leafFailed + "Debug: notTask Failed\n"},
+                    TreeCase{
+                        "or(and(P,F),not(F))",
+                        true,
+                        false,
+                        "orTask/andTask/F2",
+                        {"P1", "F2", "F3"},
+                        leafPassed + leafFailed + "Debug: andTask Failed\n" + leafPassed + "Debug: notTask Passed\n"}));
 
 TEST(LogicTasks, NotKeepsTheLastTermAndDeletesTheOthers)
 {
@@ -188,7 +204,7 @@ TEST(LogicTasks, OnlyTheExactTrueSetsAnAndFlag)
 {
     // name, value, skip, skipEmpty
     const std::vector<std::tuple<std::string, std::string, bool, bool>> cases = {
-        {"skip", "true", true, false}, {"skip", "TRUE", false, false}, {"skip", "1", false, false},
+        {"skip", "true", true, false},  {"skip", "TRUE", false, false},     {"skip", "1", false, false},
         {"Skip", "true", false, false}, {"skipEmpty", "true", false, true}, {"other", "true", false, false}};
     for (const auto& [name, value, skip, skipEmpty] : cases) {
         andTask task;
@@ -220,17 +236,18 @@ TEST_P(ConstantKindTest, AnswersAsConfigured)
     EXPECT_EQ(run.task->hashCode(), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, ConstantKindTest, testing::Values(
-    ConstantCase{"trueTask", {{"status", "false"}}, true, "", -1},
-    ConstantCase{"falseTask", {{"status", "true"}}, false, "", -1},
-    ConstantCase{"ValidateTask", {{"status", "true"}}, true, "ValidateTask Enabled", 0},
-    ConstantCase{"ValidateTask", {{"status", "True"}}, false, "ValidateTask disabled.", 0},
-    ConstantCase{"ValidateTask", {{"status", ""}}, false, "ValidateTask disabled.", 0},
-    ConstantCase{"ValidateTask", {}, false, "ValidateTask disabled.", 0},
-    ConstantCase{"ValidateTask", {{"status", "true"}, {"status", "no"}}, false, "ValidateTask disabled.", 0},
-    ConstantCase{"ValidateTask", {{"Status", "true"}}, false, "ValidateTask disabled.", 0},
-    ConstantCase{"andTask", {}, true, "", 0},
-    ConstantCase{"orTask", {}, false, "", 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, ConstantKindTest,
+    testing::Values(ConstantCase{"trueTask", {{"status", "false"}}, true, "", -1},
+                    ConstantCase{"falseTask", {{"status", "true"}}, false, "", -1},
+                    ConstantCase{"ValidateTask", {{"status", "true"}}, true, "ValidateTask Enabled", 0},
+                    ConstantCase{"ValidateTask", {{"status", "True"}}, false, "ValidateTask disabled.", 0},
+                    ConstantCase{"ValidateTask", {{"status", ""}}, false, "ValidateTask disabled.", 0},
+                    ConstantCase{"ValidateTask", {}, false, "ValidateTask disabled.", 0},
+                    ConstantCase{
+                        "ValidateTask", {{"status", "true"}, {"status", "no"}}, false, "ValidateTask disabled.", 0},
+                    ConstantCase{"ValidateTask", {{"Status", "true"}}, false, "ValidateTask disabled.", 0},
+                    ConstantCase{"andTask", {}, true, "", 0}, ConstantCase{"orTask", {}, false, "", 0}));
 
 TEST(LogicTasks, TrueIgnoresItsAttributeListEntirely)
 {
@@ -242,8 +259,8 @@ TEST(LogicTasks, TrueIgnoresItsAttributeListEntirely)
 }
 
 struct DeepChainCase {
-    std::string kind;    // the composite repeated down the chain
-    std::string leaf;    // the check at its bottom
+    std::string kind;  // the composite repeated down the chain
+    std::string leaf;  // the check at its bottom
     bool passed;
     std::string prefix;  // the message is this prefix once per level
 };
@@ -277,14 +294,16 @@ TEST_P(DeepChainTest, PerformsFarDeeperThanTheStackAllows)
     EXPECT_EQ(response->message, message);
 }
 
-INSTANTIATE_TEST_SUITE_P(Chains, DeepChainTest, testing::Values(
-    DeepChainCase{"andTask", "trueTask", true, ""},
-    DeepChainCase{"andTask", "falseTask", false, "andTask/"},
-    DeepChainCase{"orTask", "falseTask", false, "orTask/"},
-    DeepChainCase{"orTask", "trueTask", true, ""},
-    // An even number of inversions.
-    DeepChainCase{"notTask", "falseTask", false, "notTask/"}),
-    [](const testing::TestParamInfo<DeepChainCase>& testCase) { return testCase.param.kind + "Over" + testCase.param.leaf; });
+INSTANTIATE_TEST_SUITE_P(Chains, DeepChainTest,
+                         testing::Values(DeepChainCase{"andTask", "trueTask", true, ""},
+                                         DeepChainCase{"andTask", "falseTask", false, "andTask/"},
+                                         DeepChainCase{"orTask", "falseTask", false, "orTask/"},
+                                         DeepChainCase{"orTask", "trueTask", true, ""},
+                                         // An even number of inversions.
+                                         DeepChainCase{"notTask", "falseTask", false, "notTask/"}),
+                         [](const testing::TestParamInfo<DeepChainCase>& testCase) {
+                             return testCase.param.kind + "Over" + testCase.param.leaf;
+                         });
 
 // Levels of every kind, each and/or with a sibling before the deeper level that leaves the
 // outcome to it (true in an and, false in an or): only the inversions count.

@@ -24,12 +24,12 @@ TEST(MacHardware, MediumIsTheFirstTypeWithAKnownBit)
     } cases[] = {
         {{0x80}, "Wireless"},
         {{0x20}, "Wired"},
-        {{0x22, 0x80}, "Wired"},      // the walk stops at the first hit
+        {{0x22, 0x80}, "Wired"},  // the walk stops at the first hit
         {{0x80, 0x20}, "Wireless"},
-        {{0x01, 0x02, 0x40}, ""},     // neither bit: no medium
+        {{0x01, 0x02, 0x40}, ""},  // neither bit: no medium
         {{}, ""},
-        {{0xA0}, "Wireless"},         // both bits on one type
-        {{0x00100020}, "Wired"},      // subtype bits above do not matter
+        {{0xA0}, "Wireless"},     // both bits on one type
+        {{0x00100020}, "Wired"},  // subtype bits above do not matter
     };
     for (const Case& c : cases) {
         EXPECT_EQ(mediumFromTypes(c.types), c.medium) << c.types.size();
@@ -90,7 +90,7 @@ TEST(DnsMessage, NamesThatCannotBeWritten)
         {label63 + "a.test", false},  // a label of 64 bytes
         {"a..b", false},
         {".a", false},
-        {label63 + "." + label63 + "." + label63 + "." + label63, false},  // 257 bytes on the wire
+        {label63 + "." + label63 + "." + label63 + "." + label63, false},              // 257 bytes on the wire
         {label63 + "." + label63 + "." + label63 + "." + std::string(61, 'b'), true},  // 255
     };
     for (const Case& c : cases) {

@@ -31,17 +31,20 @@ TEST_P(MachineVersionTest, StripsEveryNewlineAndLogsTheVersion)
     EXPECT_EQ(Machine::getOSString(), GetParam().osString);
 }
 
-INSTANTIATE_TEST_SUITE_P(Versions, MachineVersionTest, testing::Values(
-    VersionCase{"Mac OS X\n", "10.15.7\n", "10.15.7", "Mac OS X 10.15.7"},
-    VersionCase{"Debian GNU/Linux", "12", "12", "Debian GNU/Linux 12"},
-    VersionCase{"Odd\nName\n", "\n10.\n6\n", "10.6", "OddName 10.6"},
-    VersionCase{"", "", "", " "}));
+INSTANTIATE_TEST_SUITE_P(Versions, MachineVersionTest,
+                         testing::Values(VersionCase{"Mac OS X\n", "10.15.7\n", "10.15.7", "Mac OS X 10.15.7"},
+                                         VersionCase{"Debian GNU/Linux", "12", "12", "Debian GNU/Linux 12"},
+                                         VersionCase{"Odd\nName\n", "\n10.\n6\n", "10.6", "OddName 10.6"},
+                                         VersionCase{"", "", "", " "}));
 
 TEST(Machine, HostNameIsCutAtTheFirstDot)
 {
-    const std::vector<std::pair<std::string, std::string>> cases = {
-        {"alpha", "alpha"}, {"alpha.lan", "alpha"}, {"alpha.corp.example.com", "alpha"},
-        {".hidden.lan", "hidden"}, {"...", ""}, {"", ""}};
+    const std::vector<std::pair<std::string, std::string>> cases = {{"alpha", "alpha"},
+                                                                    {"alpha.lan", "alpha"},
+                                                                    {"alpha.corp.example.com", "alpha"},
+                                                                    {".hidden.lan", "hidden"},
+                                                                    {"...", ""},
+                                                                    {"", ""}};
     for (const auto& [node, hostName] : cases) {
         RecordingHost host;
         host.node = node;

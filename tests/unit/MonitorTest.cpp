@@ -57,24 +57,40 @@ TEST_P(MonitorStatusTest, ReportsTheTasksOutcome)
     EXPECT_EQ(statusOf(*monitors.front()), report("m", GetParam().status)) << GetParam().element;
 }
 
-INSTANTIATE_TEST_SUITE_P(Monitors, MonitorStatusTest, testing::Values(
-    MonitorCase{"empty", "<Monitor id='m'/>", false},
-    MonitorCase{"empty prohibited", "<Monitor id='m' prohibit='true'/>", true},
-    MonitorCase{"passing", "<Monitor id='m'><true/></Monitor>", true},
-    MonitorCase{"stops at a failure", "<Monitor id='m'><true/><false/><true/></Monitor>", false},
-    MonitorCase{"prohibit inverts", "<Monitor id='m' prohibit='true'><true/></Monitor>", false},
-    MonitorCase{"prohibit only for true", "<Monitor id='m' prohibit='TRUE'><true/></Monitor>", true},
-    MonitorCase{"prohibit 1 is not true", "<Monitor id='m' prohibit='1'><false/></Monitor>", false},
-    MonitorCase{"process running", "<Monitor id='m'><ProcessExists procName='sshd'/></Monitor>", true},
-    MonitorCase{"prohibited process running", "<Monitor id='m' prohibit='true'><ProcessExists procName='sshd'/></Monitor>", false},
-    MonitorCase{"prohibited process absent", "<Monitor id='m' prohibit='true'><ProcessExists procName='p2pd'/></Monitor>", true},
-    MonitorCase{"nested composites", "<Monitor id='m'><and><true/><or><false/><Validate status='true'/></or>"
-                                     "<not><and><true/><false/></and></not></and></Monitor>", true},
-    MonitorCase{"nested failure", "<Monitor id='m'><or><false/><and><true/><not><true/></not></and></or></Monitor>", false},
-    MonitorCase{"unknown and text skipped", "<Monitor id='m'>text<!-- c --><Bogus x='1'><false/></Bogus><true/></Monitor>", true},
-    MonitorCase{"a check keeps no terms", "<Monitor id='m'><ProcessExists procName='sshd'><false/></ProcessExists></Monitor>", true},
-    MonitorCase{"names are exact", "<Monitor id='m'><True/><FALSE/></Monitor>", false}),
-    [](const auto& testCase) { std::string n = testCase.param.name; for (char& c : n) if (!isalnum(c)) c = '_'; return n; });
+INSTANTIATE_TEST_SUITE_P(
+    Monitors, MonitorStatusTest,
+    testing::Values(MonitorCase{"empty", "<Monitor id='m'/>", false},
+                    MonitorCase{"empty prohibited", "<Monitor id='m' prohibit='true'/>", true},
+                    MonitorCase{"passing", "<Monitor id='m'><true/></Monitor>", true},
+                    MonitorCase{"stops at a failure", "<Monitor id='m'><true/><false/><true/></Monitor>", false},
+                    MonitorCase{"prohibit inverts", "<Monitor id='m' prohibit='true'><true/></Monitor>", false},
+                    MonitorCase{"prohibit only for true", "<Monitor id='m' prohibit='TRUE'><true/></Monitor>", true},
+                    MonitorCase{"prohibit 1 is not true", "<Monitor id='m' prohibit='1'><false/></Monitor>", false},
+                    MonitorCase{"process running", "<Monitor id='m'><ProcessExists procName='sshd'/></Monitor>", true},
+                    MonitorCase{"prohibited process running",
+                                "<Monitor id='m' prohibit='true'><ProcessExists procName='sshd'/></Monitor>", false},
+                    MonitorCase{"prohibited process absent",
+                                "<Monitor id='m' prohibit='true'><ProcessExists procName='p2pd'/></Monitor>", true},
+                    MonitorCase{"nested composites",
+                                "<Monitor id='m'><and><true/><or><false/><Validate status='true'/></or>"
+                                "<not><and><true/><false/></and></not></and></Monitor>",
+                                true},
+                    MonitorCase{"nested failure",
+                                "<Monitor id='m'><or><false/><and><true/><not><true/></not></and></or></Monitor>",
+                                false},
+                    MonitorCase{"unknown and text skipped",
+                                "<Monitor id='m'>text<!-- c --><Bogus x='1'><false/></Bogus><true/></Monitor>", true},
+                    MonitorCase{"a check keeps no terms",
+                                "<Monitor id='m'><ProcessExists procName='sshd'><false/></ProcessExists></Monitor>",
+                                true},
+                    MonitorCase{"names are exact", "<Monitor id='m'><True/><FALSE/></Monitor>", false}),
+    [](const auto& testCase) {
+        std::string n = testCase.param.name;
+        for (char& c : n)
+            if (!isalnum(c))
+                c = '_';
+        return n;
+    });
 
 TEST(Monitor, CollectsMonitorElementsAtAnyDepthInOrder)
 {
@@ -124,8 +140,9 @@ TEST(Monitor, NextRunTimeIsTheLastRunPlusThePeriod)
     EXPECT_GE(seconds(monitors[0]->getNextRunTime()), ran + 30);
     EXPECT_LE(seconds(monitors[0]->getNextRunTime()), after + 30);
     // No period: the next run time is the time of the last run.
-    MonitorList extreme = parseMonitors("<m><Monitor id='far' period='99999999999999999999'/>"
-                                        "<Monitor id='past' period='-99999999999999999999'/></m>");
+    MonitorList extreme = parseMonitors(
+        "<m><Monitor id='far' period='99999999999999999999'/>"
+        "<Monitor id='past' period='-99999999999999999999'/></m>");
     statusOf(*extreme[0]);
     statusOf(*extreme[1]);
     EXPECT_EQ(extreme[0]->getNextRunTime().tv_sec, std::numeric_limits<std::time_t>::max());

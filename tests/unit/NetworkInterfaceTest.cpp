@@ -89,53 +89,79 @@ TEST_P(Admission, KeepsHardwareAndUpTunnelsOnly)
     EXPECT_EQ(logMessages(log.text()), GetParam().log);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rules, Admission, testing::Values(
-    AdmissionCase{"loopback", [](DescribedNetwork& d) {
-        d.ipv4("lo", loopback, "127.0.0.1");
-        d.ipv6("lo", loopback, "::1");
-    }, {}, {"Skipping interface 'lo' isLoopback: 1 flags: 0x49"}},
-    AdmissionCase{"loopback with a hardware address", [](DescribedNetwork& d) {
-        d.ipv4("lo", loopback, "127.0.0.1");
-        d.wired("lo", "00:00:00:00:00:01", true);
-    }, {}, {"Skipping interface 'lo' isLoopback: 1 flags: 0x49"}},
-    AdmissionCase{"tunnel up and running", [](DescribedNetwork& d) {
-        d.ipv4("tun0", tunnelUp, "10.8.0.2");
-    }, {"tun0"}, {}},
-    AdmissionCase{"tunnel not running", [](DescribedNetwork& d) {
-        d.ipv4("tun0", tunnelIdle, "10.8.0.2");
-    }, {}, {"Skipping interface 'tun0' isLoopback: 0 flags: 0x1091"}},
-    AdmissionCase{"Ethernet port without medium", [](DescribedNetwork& d) {
-        d.link("eth1", ethernetUp);
-        d.net.hardware["eth1"] = {"00:1B:63:00:00:01", ""};
-    }, {}, {"Skipping interface 'eth1' isLoopback: 0 flags: 0x1043"}},
-    AdmissionCase{"medium that cannot be read", [](DescribedNetwork& d) {
-        d.link("eth2", ethernetUp);
-        d.net.hardware["eth2"] = {"00:1B:63:00:00:02", "Unknown"};
-    }, {"00:1B:63:00:00:02"}, {"medium is unknown; no dictionary found ", "getCurrentProfileName: no Wi-Fi interface",
-                               "getCurrentBSSID: no Wi-Fi interface", "bssid from airport "}},
-    AdmissionCase{"IPv6 and link entries of other hardware are not candidates", [](DescribedNetwork& d) {
-        d.ipv6("sit0", ethernetUp, "::5");
-        d.link("sit0", ethernetUp, false);
-        d.wired("sit0", "00:1B:63:00:00:03", true);
-    }, {}, {}},
-    AdmissionCase{"the first interface with a MAC wins", [](DescribedNetwork& d) {
-        d.link("eth0", ethernetUp);
-        d.link("eth0.5", ethernetUp);
-        d.wired("eth0", "00:1B:63:00:00:04", true);
-        d.wired("eth0.5", "00:1B:63:00:00:04", false);
-    }, {"00:1B:63:00:00:04"}, {}},
-    AdmissionCase{"a lookup that fails twice is retried", [](DescribedNetwork& d) {
-        d.link("eth0", ethernetUp);
-        d.wired("eth0", "00:1B:63:00:00:05", true);
-        d.net.failingLookups["eth0"] = 2;
-    }, {"00:1B:63:00:00:05"}, {"Skipping interface 'eth0'", "Skipping interface 'eth0'"}},
-    AdmissionCase{"a lookup that keeps failing is given up after three attempts", [](DescribedNetwork& d) {
-        d.link("eth0", ethernetUp);
-        d.link("eth1", ethernetUp);
-        d.wired("eth0", "00:1B:63:00:00:06", true);
-        d.wired("eth1", "00:1B:63:00:00:07", true);
-        d.net.failingLookups["eth0"] = 1000;
-    }, {"00:1B:63:00:00:07"}, {"Skipping interface 'eth0'", "Skipping interface 'eth0'", "Skipping interface 'eth0'"}}),
+INSTANTIATE_TEST_SUITE_P(
+    Rules, Admission,
+    testing::Values(
+        AdmissionCase{"loopback",
+                      [](DescribedNetwork& d) {
+                          d.ipv4("lo", loopback, "127.0.0.1");
+                          d.ipv6("lo", loopback, "::1");
+                      },
+                      {},
+                      {"Skipping interface 'lo' isLoopback: 1 flags: 0x49"}},
+        AdmissionCase{"loopback with a hardware address",
+                      [](DescribedNetwork& d) {
+                          d.ipv4("lo", loopback, "127.0.0.1");
+                          d.wired("lo", "00:00:00:00:00:01", true);
+                      },
+                      {},
+                      {"Skipping interface 'lo' isLoopback: 1 flags: 0x49"}},
+        AdmissionCase{
+            "tunnel up and running", [](DescribedNetwork& d) { d.ipv4("tun0", tunnelUp, "10.8.0.2"); }, {"tun0"}, {}},
+        AdmissionCase{"tunnel not running",
+                      [](DescribedNetwork& d) { d.ipv4("tun0", tunnelIdle, "10.8.0.2"); },
+                      {},
+                      {"Skipping interface 'tun0' isLoopback: 0 flags: 0x1091"}},
+        AdmissionCase{"Ethernet port without medium",
+                      [](DescribedNetwork& d) {
+                          d.link("eth1", ethernetUp);
+                          d.net.hardware["eth1"] = {"00:1B:63:00:00:01", ""};
+                      },
+                      {},
+                      {"Skipping interface 'eth1' isLoopback: 0 flags: 0x1043"}},
+        AdmissionCase{"medium that cannot be read",
+                      [](DescribedNetwork& d) {
+                          d.link("eth2", ethernetUp);
+                          d.net.hardware["eth2"] = {"00:1B:63:00:00:02", "Unknown"};
+                      },
+                      {"00:1B:63:00:00:02"},
+                      {"medium is unknown; no dictionary found ", "getCurrentProfileName: no Wi-Fi interface",
+                       "getCurrentBSSID: no Wi-Fi interface", "bssid from airport "}},
+        AdmissionCase{"IPv6 and link entries of other hardware are not candidates",
+                      [](DescribedNetwork& d) {
+                          d.ipv6("sit0", ethernetUp, "::5");
+                          d.link("sit0", ethernetUp, false);
+                          d.wired("sit0", "00:1B:63:00:00:03", true);
+                      },
+                      {},
+                      {}},
+        AdmissionCase{"the first interface with a MAC wins",
+                      [](DescribedNetwork& d) {
+                          d.link("eth0", ethernetUp);
+                          d.link("eth0.5", ethernetUp);
+                          d.wired("eth0", "00:1B:63:00:00:04", true);
+                          d.wired("eth0.5", "00:1B:63:00:00:04", false);
+                      },
+                      {"00:1B:63:00:00:04"},
+                      {}},
+        AdmissionCase{"a lookup that fails twice is retried",
+                      [](DescribedNetwork& d) {
+                          d.link("eth0", ethernetUp);
+                          d.wired("eth0", "00:1B:63:00:00:05", true);
+                          d.net.failingLookups["eth0"] = 2;
+                      },
+                      {"00:1B:63:00:00:05"},
+                      {"Skipping interface 'eth0'", "Skipping interface 'eth0'"}},
+        AdmissionCase{"a lookup that keeps failing is given up after three attempts",
+                      [](DescribedNetwork& d) {
+                          d.link("eth0", ethernetUp);
+                          d.link("eth1", ethernetUp);
+                          d.wired("eth0", "00:1B:63:00:00:06", true);
+                          d.wired("eth1", "00:1B:63:00:00:07", true);
+                          d.net.failingLookups["eth0"] = 1000;
+                      },
+                      {"00:1B:63:00:00:07"},
+                      {"Skipping interface 'eth0'", "Skipping interface 'eth0'", "Skipping interface 'eth0'"}}),
     [](const testing::TestParamInfo<AdmissionCase>& testCase) { return "case" + std::to_string(testCase.index); });
 
 TEST(NetworkInventory, AnUnreadableListLeavesTheMapAlone)
@@ -170,7 +196,8 @@ TEST(NetworkInventory, WirelessInterfacesCarryTheNetworkAndANormalisedBssid)
         DescribedNetwork d;
         d.link("wlan0", ethernetUp);
         d.net.hardware["wlan0"] = {"00:1B:63:00:00:09", "Wireless"};
-        d.net.wifi = tvpolicy::NetworkProbe::WifiStatus{"wlan0", "Campus", managerKnowsBssid ? "0a:1b:2c:3d:4e:5f" : ""};
+        d.net.wifi =
+            tvpolicy::NetworkProbe::WifiStatus{"wlan0", "Campus", managerKnowsBssid ? "0a:1b:2c:3d:4e:5f" : ""};
         d.net.bssidTool = "iw-link";
         d.net.outputs["iw-link"] = "aa:bb:cc:dd:ee:ff";
         testing_support::CaptureStream log(std::clog);
@@ -243,7 +270,8 @@ struct ReportCase {
 TEST(InterfaceReport, FragmentsFollowTheElementOrderAndCdataRule)
 {
     const std::vector<ReportCase> cases = {
-        {"wired, one address", [] {
+        {"wired, one address",
+         [] {
              NetworkInterface* i = wired("00:1B:63:AB:CD:EF", "en0", true);
              i->addIPv4Address("10.0.0.5");
              return i;
@@ -251,7 +279,8 @@ TEST(InterfaceReport, FragmentsFollowTheElementOrderAndCdataRule)
          "<interface><mac><![CDATA[00:1B:63:AB:CD:EF]]></mac><ip><![CDATA[10.0.0.5]]></ip><desc></desc>"
          "<medium><![CDATA[Wired]]></medium><name><![CDATA[en0]]></name><suffix><![CDATA[corp.example]]></suffix>"
          "<operstatus>UP</operstatus></interface>"},
-        {"two IPv4 and one IPv6, down", [] {
+        {"two IPv4 and one IPv6, down",
+         [] {
              NetworkInterface* i = wired("00:1B:63:AB:CD:EF", "eth0", false);
              i->addIPv4Address("10.0.0.5");
              i->addIPv4Address("10.0.0.6");
@@ -262,14 +291,16 @@ TEST(InterfaceReport, FragmentsFollowTheElementOrderAndCdataRule)
          "<interface><mac><![CDATA[00:1B:63:AB:CD:EF]]></mac><ip><![CDATA[10.0.0.5]]></ip><ip><![CDATA[10.0.0.6]]></ip>"
          "<ipv6><![CDATA[fd00::5]]></ipv6><desc></desc><medium><![CDATA[Wired]]></medium><name><![CDATA[eth0]]></name>"
          "<suffix></suffix><operstatus>DOWN</operstatus></interface>"},
-        {"wireless, not associated", [] {
+        {"wireless, not associated",
+         [] {
              NetworkInterface* i = wired("00:1B:63:AB:CD:EF", "wlan0", true);
              i->setMedium("Wireless");
              return i;
          },
          "<interface><mac><![CDATA[00:1B:63:AB:CD:EF]]></mac><desc></desc><medium><![CDATA[Wireless]]></medium>"
          "<name><![CDATA[wlan0]]></name><suffix><![CDATA[corp.example]]></suffix><operstatus>UP</operstatus></interface>"},
-        {"wireless, associated", [] {
+        {"wireless, associated",
+         [] {
              NetworkInterface* i = wired("00:1B:63:AB:CD:EF", "wlan0", true);
              i->setMedium("Wireless");
              i->setESSID("Campus");
@@ -279,7 +310,8 @@ TEST(InterfaceReport, FragmentsFollowTheElementOrderAndCdataRule)
          "<interface><mac><![CDATA[00:1B:63:AB:CD:EF]]></mac><desc></desc><medium><![CDATA[Wireless]]></medium>"
          "<name><![CDATA[wlan0]]></name><suffix><![CDATA[corp.example]]></suffix><essid><![CDATA[Campus]]></essid>"
          "<bssid><![CDATA[0A:1B:2C:3D:4E:5F]]></bssid><operstatus>UP</operstatus></interface>"},
-        {"guest adapter", [] {
+        {"guest adapter",
+         [] {
              auto* i = new NetworkInterface();
              i->setMACAddress("08:00:27:AB:CD:EF");
              i->setDescription("VirtualBox Guest: 08:00:27:AB:CD:EF");
@@ -292,7 +324,8 @@ TEST(InterfaceReport, FragmentsFollowTheElementOrderAndCdataRule)
          "<interface><mac><![CDATA[08:00:27:AB:CD:EF]]></mac><desc><![CDATA[VirtualBox Guest: 08:00:27:AB:CD:EF]]></desc>"
          "<medium><![CDATA[VirtualGuest]]></medium><name><![CDATA[VirtualBox Guest0:0]]></name><suffix></suffix>"
          "<operstatus>DOWN</operstatus><vm><![CDATA[VirtualBox Guest0]]></vm></interface>"},
-        {"tunnel", [] {
+        {"tunnel",
+         [] {
              NetworkInterface* i = wired("", "tun0", true);
              i->addIPv4Address("10.8.0.2");
              return i;
@@ -317,9 +350,10 @@ TEST(InterfaceReport, OnlyTheExactModeNoneLeavesGuestsOut)
     d.net.outputs["sudo -u \\#0 /opt/vbox list runningvms"] = "\"vm\" {1}\n";
     d.net.outputs["sudo -u \\#0 /opt/vbox showvminfo --machinereadable {1}| /usr/bin/grep ^macaddress"] =
         "macaddress1=\"080027000001\"\n";
-    const std::string host = "<interface><mac><![CDATA[00:1B:63:00:00:10]]></mac><desc></desc>"
-                             "<medium><![CDATA[Wired]]></medium><name><![CDATA[eth0]]></name><suffix></suffix>"
-                             "<operstatus>UP</operstatus></interface>";
+    const std::string host =
+        "<interface><mac><![CDATA[00:1B:63:00:00:10]]></mac><desc></desc>"
+        "<medium><![CDATA[Wired]]></medium><name><![CDATA[eth0]]></name><suffix></suffix>"
+        "<operstatus>UP</operstatus></interface>";
     EXPECT_EQ(com::torvane::api::getNetworkInterfacesXML("NONE"), host);
     for (const char* mode : {"none", "", "ALL"}) {
         std::string xml = com::torvane::api::getNetworkInterfacesXML(mode);

@@ -45,25 +45,25 @@ std::vector<Task::Attribute> asks(std::string op, std::string major, std::string
     return {{"major", major}, {"minor", minor}, {"micro", micro}, {"operation", op}};
 }
 
-INSTANTIATE_TEST_SUITE_P(Versions, MacOSXVersionTaskTest, testing::Values(
-    // Two words are compared with ".0" behind them: "lt" 10.7.0 fails on 10.7.
-    VersionCase{"10.6.8", asks("lt", "10", "7", "0"), true},
-    VersionCase{"10.7", asks("lt", "10", "7", "0"), false},
-    VersionCase{"10.7\n", asks("lt", "10", "7", "0"), false},
-    VersionCase{"10.7", asks("gte", "10", "7", "1"), false},
-    // Three and four words are compared as they stand.
-    VersionCase{"10.6.8.1", asks("gt", "10", "6", "8"), true},
-    VersionCase{"10.6.8.1", asks("lt", "10", "6", "8"), false},
-    // An unknown or missing operation means "gte".
-    VersionCase{"10.6.8", asks("GT", "10", "6", "8"), true},
-    VersionCase{"10.6.8", {{"major", "10"}, {"minor", "6"}, {"micro", "8"}}, true},
-    // Missing attributes ask for "..", which has no words: the check fails.
-    VersionCase{"10.6.8", {}, false},
-    VersionCase{"10.6.8", {{"Major", "10"}, {"minor", "6"}, {"micro", "8"}, {"operation", "lt"}}, false},
-    VersionCase{"", asks("gte", "10", "4", "0"), false},
-    // Debian's one-word VERSION_ID.
-    VersionCase{"12", asks("gte", "11", "0", "0"), true},
-    VersionCase{"12", asks("gte", "13", "0", "0"), false}));
+INSTANTIATE_TEST_SUITE_P(
+    Versions, MacOSXVersionTaskTest,
+    testing::Values(
+        // Two words are compared with ".0" behind them: "lt" 10.7.0 fails on 10.7.
+        VersionCase{"10.6.8", asks("lt", "10", "7", "0"), true}, VersionCase{"10.7", asks("lt", "10", "7", "0"), false},
+        VersionCase{"10.7\n", asks("lt", "10", "7", "0"), false},
+        VersionCase{"10.7", asks("gte", "10", "7", "1"), false},
+        // Three and four words are compared as they stand.
+        VersionCase{"10.6.8.1", asks("gt", "10", "6", "8"), true},
+        VersionCase{"10.6.8.1", asks("lt", "10", "6", "8"), false},
+        // An unknown or missing operation means "gte".
+        VersionCase{"10.6.8", asks("GT", "10", "6", "8"), true},
+        VersionCase{"10.6.8", {{"major", "10"}, {"minor", "6"}, {"micro", "8"}}, true},
+        // Missing attributes ask for "..", which has no words: the check fails.
+        VersionCase{"10.6.8", {}, false},
+        VersionCase{"10.6.8", {{"Major", "10"}, {"minor", "6"}, {"micro", "8"}, {"operation", "lt"}}, false},
+        VersionCase{"", asks("gte", "10", "4", "0"), false},
+        // Debian's one-word VERSION_ID.
+        VersionCase{"12", asks("gte", "11", "0", "0"), true}, VersionCase{"12", asks("gte", "13", "0", "0"), false}));
 
 TEST(MacOSXVersionTask, LogsTheVersionItReads)
 {
@@ -108,15 +108,13 @@ TEST_P(FlushDNSTaskTest, IssuesTheToolOfTheVersion)
     EXPECT_EQ(task->getType(), "FlushDNS");
 }
 
-INSTANTIATE_TEST_SUITE_P(Versions, FlushDNSTaskTest, testing::Values(
-    GateCase{"10.6.8", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"10.5", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"11.2.3", "/usr/bin/dscacheutil -flushcache"},
-    GateCase{"10.4.11", "/usr/bin/lookupd -flushcache"},
-    GateCase{"10.4", "/usr/bin/lookupd -flushcache"},
-    GateCase{"10.3.9", ""},
-    GateCase{"9.2", ""},
-    GateCase{"", ""}));
+INSTANTIATE_TEST_SUITE_P(Versions, FlushDNSTaskTest,
+                         testing::Values(GateCase{"10.6.8", "/usr/bin/dscacheutil -flushcache"},
+                                         GateCase{"10.5", "/usr/bin/dscacheutil -flushcache"},
+                                         GateCase{"11.2.3", "/usr/bin/dscacheutil -flushcache"},
+                                         GateCase{"10.4.11", "/usr/bin/lookupd -flushcache"},
+                                         GateCase{"10.4", "/usr/bin/lookupd -flushcache"}, GateCase{"10.3.9", ""},
+                                         GateCase{"9.2", ""}, GateCase{"", ""}));
 
 TEST(FlushDNS, ToolCommandsGiveTheirStatus)
 {
@@ -126,7 +124,8 @@ TEST(FlushDNS, ToolCommandsGiveTheirStatus)
     FlushDNS task;
     EXPECT_EQ(task.flushDNSdscacheutil(), 256);
     EXPECT_EQ(task.flushDNSlookupd(), 256);
-    EXPECT_EQ(host.commandsRun, (std::vector<std::string>{"/usr/bin/dscacheutil -flushcache", "/usr/bin/lookupd -flushcache"}));
+    EXPECT_EQ(host.commandsRun,
+              (std::vector<std::string>{"/usr/bin/dscacheutil -flushcache", "/usr/bin/lookupd -flushcache"}));
 }
 
 }  // namespace

@@ -79,17 +79,19 @@ TEST_P(PolicyEncodingTest, ReadsAsItsUtf8Twin)
     EXPECT_EQ(parsed.policy->run(), twin.policy->run());
 }
 
-INSTANTIATE_TEST_SUITE_P(Encodings, PolicyEncodingTest, testing::Values(
-    EncodingCase{"Utf8WithMark", "\xef\xbb\xbf" + utf8(document)},
-    EncodingCase{"Utf16LittleEndianWithMark", wide(document, 2, false, true)},
-    EncodingCase{"Utf16BigEndianWithMark", wide(document, 2, true, true)},
-    EncodingCase{"Utf16LittleEndianUnmarked", wide(document, 2, false, false)},
-    EncodingCase{"Utf16BigEndianUnmarked", wide(document, 2, true, false)},
-    EncodingCase{"Utf16UnmarkedWithDeclaration",
-                 wide(u"<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + body + u" junk", 2, false, false)},
-    EncodingCase{"Utf16WithAnOddByteAtTheEnd", wide(document, 2, true, true) + "\x3e"},
-    EncodingCase{"Utf32LittleEndianWithMark", wide(document, 4, false, true)},
-    EncodingCase{"Utf32BigEndianWithMark", wide(document, 4, true, true)}),
+INSTANTIATE_TEST_SUITE_P(
+    Encodings, PolicyEncodingTest,
+    testing::Values(EncodingCase{"Utf8WithMark", "\xef\xbb\xbf" + utf8(document)},
+                    EncodingCase{"Utf16LittleEndianWithMark", wide(document, 2, false, true)},
+                    EncodingCase{"Utf16BigEndianWithMark", wide(document, 2, true, true)},
+                    EncodingCase{"Utf16LittleEndianUnmarked", wide(document, 2, false, false)},
+                    EncodingCase{"Utf16BigEndianUnmarked", wide(document, 2, true, false)},
+                    EncodingCase{
+                        "Utf16UnmarkedWithDeclaration",
+                        wide(u"<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + body + u" junk", 2, false, false)},
+                    EncodingCase{"Utf16WithAnOddByteAtTheEnd", wide(document, 2, true, true) + "\x3e"},
+                    EncodingCase{"Utf32LittleEndianWithMark", wide(document, 4, false, true)},
+                    EncodingCase{"Utf32BigEndianWithMark", wide(document, 4, true, true)}),
     [](const testing::TestParamInfo<EncodingCase>& testCase) { return testCase.param.name; });
 
 // A greater-than byte inside a wide character is not the end of the markup: U+3E3C in UTF-16LE

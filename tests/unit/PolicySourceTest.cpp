@@ -36,14 +36,15 @@ Section& onlySection(Policy& policy)
 
 TEST(PolicySource, ChecksKeepTheirElementAttributesAndLine)
 {
-    auto parsed = parsePolicy("<policy name=\"p\">\n"
-                              "<section name=\"s\" primary=\"true\">\n"
-                              "<File fileName=\"passwd\" startpath=\"/etc\"/>\n"
-                              "<or>\n"
-                              "  <ProcessExists procName=\"sshd\" proc=\"x\"/>\n"
-                              "  <not><true/></not>\n"
-                              "</or>\n"
-                              "</section>\n</policy>\n");
+    auto parsed = parsePolicy(
+        "<policy name=\"p\">\n"
+        "<section name=\"s\" primary=\"true\">\n"
+        "<File fileName=\"passwd\" startpath=\"/etc\"/>\n"
+        "<or>\n"
+        "  <ProcessExists procName=\"sshd\" proc=\"x\"/>\n"
+        "  <not><true/></not>\n"
+        "</or>\n"
+        "</section>\n</policy>\n");
     Section& section = onlySection(*parsed.policy);
     EXPECT_EQ(section.getLocation().line, 2u);
     ASSERT_EQ(section.getTasks().size(), 2u);
@@ -51,7 +52,8 @@ TEST(PolicySource, ChecksKeepTheirElementAttributesAndLine)
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->element, "File");
     EXPECT_EQ(file->location.line, 3u);
-    EXPECT_EQ(file->attributes, (std::vector<std::pair<std::string, std::string>>{{"fileName", "passwd"}, {"startpath", "/etc"}}));
+    EXPECT_EQ(file->attributes,
+              (std::vector<std::pair<std::string, std::string>>{{"fileName", "passwd"}, {"startpath", "/etc"}}));
     EXPECT_EQ(file->unknownAttributes, std::vector<std::string>{"startpath"});  // names are case-sensitive
 
     Task* orTerm = section.getTasks().back();
@@ -67,8 +69,9 @@ TEST(PolicySource, ChecksKeepTheirElementAttributesAndLine)
 
 TEST(PolicySource, ElementsNamingNoKindArePassedOverAndRecorded)
 {
-    auto parsed = parsePolicy("<policy name=\"p\">\n<section name=\"s\" primary=\"true\">\n"
-                              "<file fileName=\"passwd\"/>\n<Firewall><true/></Firewall>\n</section>\n</policy>\n");
+    auto parsed = parsePolicy(
+        "<policy name=\"p\">\n<section name=\"s\" primary=\"true\">\n"
+        "<file fileName=\"passwd\"/>\n<Firewall><true/></Firewall>\n</section>\n</policy>\n");
     Section& section = onlySection(*parsed.policy);
     ASSERT_EQ(section.getIgnoredElements().size(), 2u);
     EXPECT_EQ(section.getIgnoredElements()[0].element, "file");
@@ -110,23 +113,24 @@ TEST_P(PolicyRootTest, TellsTheRootAndWhyAParseFailed)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Documents, PolicyRootTest, testing::Values(
-    RootCase{"<policy name=\"p\"/>", "policy", false},
-    RootCase{"<html><body>502</body></html>", "html", false},
-    RootCase{"<monitors><Monitor id=\"a\"/></monitors>", "monitors", false},
-    RootCase{"<policy>\n<section name=\"s\">\n</policy>", "policy", true},
-    RootCase{"\x01\x02<\xff\xfe>", "", true}));
+INSTANTIATE_TEST_SUITE_P(Documents, PolicyRootTest,
+                         testing::Values(RootCase{"<policy name=\"p\"/>", "policy", false},
+                                         RootCase{"<html><body>502</body></html>", "html", false},
+                                         RootCase{"<monitors><Monitor id=\"a\"/></monitors>", "monitors", false},
+                                         RootCase{"<policy>\n<section name=\"s\">\n</policy>", "policy", true},
+                                         RootCase{"\x01\x02<\xff\xfe>", "", true}));
 
 // The announcement of a passed-over secondary is empty, as the agent expects; the policy says
 // which section it is about while the slots run.
 TEST(PolicySource, AnnouncementsNameTheirSection)
 {
-    auto parsed = parsePolicy("<policy name=\"p\">"
-                              "<section name=\"primary\" group=\"g\" primary=\"true\"><false/></section>"
-                              "<section name=\"secondary\" group=\"g\"><true/></section>"
-                              "<option name=\"o\" type=\"ANY\">"
-                              "<section name=\"inner\" group=\"h\" primary=\"true\"><false/></section>"
-                              "<section name=\"inner secondary\" group=\"h\"><true/></section></option></policy>");
+    auto parsed = parsePolicy(
+        "<policy name=\"p\">"
+        "<section name=\"primary\" group=\"g\" primary=\"true\"><false/></section>"
+        "<section name=\"secondary\" group=\"g\"><true/></section>"
+        "<option name=\"o\" type=\"ANY\">"
+        "<section name=\"inner\" group=\"h\" primary=\"true\"><false/></section>"
+        "<section name=\"inner secondary\" group=\"h\"><true/></section></option></policy>");
     Policy& policy = *parsed.policy;
     std::vector<std::string> seen;
     policy.connect([&](std::shared_ptr<std::string> name) {
@@ -145,8 +149,8 @@ TEST(PolicySource, VersionChecksKeepWhatTheyCompared)
     host.productVersion = "10.4.11";
     tvpolicy::ScopedHost scope(host);
     std::unique_ptr<Task> task(TaskFactory::createTask("MacOSXVersionTask"));
-    for (Task::Attribute attribute : std::vector<Task::Attribute>{{"major", "10"}, {"minor", "6"}, {"micro", "8"},
-                                                                  {"operation", "gte"}}) {
+    for (Task::Attribute attribute :
+         std::vector<Task::Attribute>{{"major", "10"}, {"minor", "6"}, {"micro", "8"}, {"operation", "gte"}}) {
         task->setAttribute(&attribute);
     }
     auto* evidence = dynamic_cast<tvpolicy::VersionEvidence*>(task.get());
@@ -179,14 +183,16 @@ TEST_P(DocumentCheckTest, ReadsLikeTheAgentsReaders)
     EXPECT_EQ(check.problem.empty(), GetParam().readable);
 }
 
-INSTANTIATE_TEST_SUITE_P(Documents, DocumentCheckTest, testing::Values(
-    DocumentCase{"Agent", "<agentStatus xmlns=\"urn:torvane:agent:1\"><status>SUCCESS</status></agentStatus>", true,
-                 "agentStatus", 2},
-    DocumentCase{"OtherNamespace", "<a:x xmlns:a=\"urn:other\"><a:y/></a:x>", true, "x", 0},
-    DocumentCase{"NoNamespace", "<monitors><Monitor/></monitors>", true, "monitors", 0},
-    DocumentCase{"Empty", "", false, "", 0},
-    DocumentCase{"CutShort", "<agentStatus xmlns=\"urn:torvane:agent:1\"><status>", false, "agentStatus", 2},
-    DocumentCase{"Binary", std::string("\0\x01<\xff", 4), false, "", 0}),
+INSTANTIATE_TEST_SUITE_P(
+    Documents, DocumentCheckTest,
+    testing::Values(
+        DocumentCase{"Agent", "<agentStatus xmlns=\"urn:torvane:agent:1\"><status>SUCCESS</status></agentStatus>", true,
+                     "agentStatus", 2},
+        DocumentCase{"OtherNamespace", "<a:x xmlns:a=\"urn:other\"><a:y/></a:x>", true, "x", 0},
+        DocumentCase{"NoNamespace", "<monitors><Monitor/></monitors>", true, "monitors", 0},
+        DocumentCase{"Empty", "", false, "", 0},
+        DocumentCase{"CutShort", "<agentStatus xmlns=\"urn:torvane:agent:1\"><status>", false, "agentStatus", 2},
+        DocumentCase{"Binary", std::string("\0\x01<\xff", 4), false, "", 0}),
     [](const testing::TestParamInfo<DocumentCase>& testCase) { return testCase.param.title; });
 
 // An include that cannot be read ends the process; an embedder's handler learns why first and

@@ -85,16 +85,40 @@ using namespace tvpolicy::checks;
 TEST_F(DescribedFacts, PackagesByNameVersionAndState)
 {
     expectAll({
-        {"installed", createPackageInstalled, {{"name", "openssh-server"}}, true, "openssh-server 1:9.2p1-2+deb12u3 is installed"},
+        {"installed",
+         createPackageInstalled,
+         {{"name", "openssh-server"}},
+         true,
+         "openssh-server 1:9.2p1-2+deb12u3 is installed"},
         {"at least", createPackageInstalled, {{"name", "openssh-server"}, {"required", "1:9.2"}}, true, "(gte 1:9.2)"},
         {"epoch decides", createPackageInstalled, {{"name", "openssh-server"}, {"required", "9.9"}}, true, "gte"},
-        {"too old", createPackageInstalled, {{"name", "openssh-server"}, {"required", "1:9.3"}}, false, "not gte 1:9.3"},
-        {"lt", createPackageInstalled, {{"name", "openssh-server"}, {"required", "1:9.2p1-2+deb12u4"}, {"operation", "lt"}}, true, "lt"},
+        {"too old",
+         createPackageInstalled,
+         {{"name", "openssh-server"}, {"required", "1:9.3"}},
+         false,
+         "not gte 1:9.3"},
+        {"lt",
+         createPackageInstalled,
+         {{"name", "openssh-server"}, {"required", "1:9.2p1-2+deb12u4"}, {"operation", "lt"}},
+         true,
+         "lt"},
         {"config files only", createPackageInstalled, {{"name", "telnet"}}, false, "telnet is not installed"},
         {"half installed", createPackageInstalled, {{"name", "half"}}, false, "not installed"},
-        {"multi-arch", createPackageInstalled, {{"name", "libc6"}, {"required", "2.36"}, {"operation", "gt"}}, true, "libc6:amd64"},
-        {"bad operation", createPackageInstalled, {{"name", "libc6"}, {"required", "2"}, {"operation", "ge"}}, false, "operation is not one of"},
-        {"bad version", createPackageInstalled, {{"name", "libc6"}, {"required", "latest"}}, false, "not a Debian version"},
+        {"multi-arch",
+         createPackageInstalled,
+         {{"name", "libc6"}, {"required", "2.36"}, {"operation", "gt"}},
+         true,
+         "libc6:amd64"},
+        {"bad operation",
+         createPackageInstalled,
+         {{"name", "libc6"}, {"required", "2"}, {"operation", "ge"}},
+         false,
+         "operation is not one of"},
+        {"bad version",
+         createPackageInstalled,
+         {{"name", "libc6"}, {"required", "latest"}},
+         false,
+         "not a Debian version"},
         {"no name", createPackageInstalled, {}, false, "the attribute name is missing"},
     });
     host.applications = {};
@@ -214,18 +238,42 @@ TEST_F(RealFiles, ContentByLineWithLimits)
     ::chmod(locked.c_str(), 0);
     bool root = ::geteuid() == 0;
     std::vector<Case> cases{
-        {"match", createFileContent, {{"path", config}, {"pattern", "^PermitRootLogin\\s+no$"}}, true, "line 3 matches: PermitRootLogin no"},
+        {"match",
+         createFileContent,
+         {{"path", config}, {"pattern", "^PermitRootLogin\\s+no$"}},
+         true,
+         "line 3 matches: PermitRootLogin no"},
         {"line end not part", createFileContent, {{"path", config}, {"pattern", "comment$"}}, true, "line 1"},
-        {"absent passes", createFileContent, {{"path", config}, {"pattern", "^PermitRootLogin yes"}, {"absent", "true"}}, true, "no line"},
-        {"absent fails", createFileContent, {{"path", config}, {"pattern", "^Port"}, {"absent", "true"}}, false, "line 2 matches"},
-        {"missing file", createFileContent, {{"path", config + ".none"}, {"pattern", "x"}, {"absent", "true"}}, false, "cannot be read"},
-        {"bad pattern", createFileContent, {{"path", config}, {"pattern", "(unclosed"}}, false, "pattern does not compile"},
+        {"absent passes",
+         createFileContent,
+         {{"path", config}, {"pattern", "^PermitRootLogin yes"}, {"absent", "true"}},
+         true,
+         "no line"},
+        {"absent fails",
+         createFileContent,
+         {{"path", config}, {"pattern", "^Port"}, {"absent", "true"}},
+         false,
+         "line 2 matches"},
+        {"missing file",
+         createFileContent,
+         {{"path", config + ".none"}, {"pattern", "x"}, {"absent", "true"}},
+         false,
+         "cannot be read"},
+        {"bad pattern",
+         createFileContent,
+         {{"path", config}, {"pattern", "(unclosed"}},
+         false,
+         "pattern does not compile"},
         {"17 MB", createFileContent, {{"path", big}, {"pattern", "b"}}, false, "larger than 16 MB"},
         {"backtracking", createFileContent, {{"path", hostile}, {"pattern", "^(a+)+$"}}, false, "limit"},
         {"directory", createFileContent, {{"path", tmp.path().string()}, {"pattern", "x"}}, false, "cannot be read"},
     };
     if (!root) {
-        cases.push_back({"unreadable", createFileContent, {{"path", locked}, {"pattern", "x"}, {"absent", "true"}}, false, "cannot be read"});
+        cases.push_back({"unreadable",
+                         createFileContent,
+                         {{"path", locked}, {"pattern", "x"}, {"absent", "true"}},
+                         false,
+                         "cannot be read"});
     }
     for (const auto& c : cases) {
         Result result = perform(c.create, c.attributes);
@@ -248,7 +296,11 @@ TEST_F(RealFiles, OwnerGroupAndModeThroughLinks)
     ASSERT_EQ(::chown(setuid.c_str(), 1234, 1234), 0);
     ASSERT_EQ(::chmod(setuid.c_str(), 04755), 0);
     std::vector<Case> cases{
-        {"exact", createFileMode, {{"path", shadow}, {"owner", "root"}, {"group", "42"}, {"maxMode", "0640"}}, true, "owner root, group"},
+        {"exact",
+         createFileMode,
+         {{"path", shadow}, {"owner", "root"}, {"group", "42"}, {"maxMode", "0640"}},
+         true,
+         "owner root, group"},
         {"stricter allowed", createFileMode, {{"path", shadow}, {"maxMode", "0644"}}, true, "mode 0640"},
         {"looser refused", createFileMode, {{"path", shadow}, {"maxMode", "0600"}}, false, "mode exceeds 0600"},
         {"through link", createFileMode, {{"path", link}, {"owner", "0"}, {"maxMode", "640"}}, true, "mode 0640"},
@@ -274,10 +326,10 @@ TEST(PostureAttributes, ProblemsLintReports)
         const char* value;
         bool problem;
     } rows[] = {
-        {"FileModeTask", "maxMode", "0640", false},  {"FileModeTask", "maxMode", "rw-r", true},
-        {"FileModeTask", "maxMode", "17777", true},  {"FileContentTask", "pattern", "a(b", true},
+        {"FileModeTask", "maxMode", "0640", false},    {"FileModeTask", "maxMode", "rw-r", true},
+        {"FileModeTask", "maxMode", "17777", true},    {"FileContentTask", "pattern", "a(b", true},
         {"FileContentTask", "pattern", "^a+$", false}, {"PortListeningTask", "port", "443", false},
-        {"PortListeningTask", "port", "-1", true},   {"PortListeningTask", "protocol", "TCP", true},
+        {"PortListeningTask", "port", "-1", true},     {"PortListeningTask", "protocol", "TCP", true},
         {"FileTask", "maxMode", "x", false},
     };
     for (const auto& row : rows) {

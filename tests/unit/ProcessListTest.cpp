@@ -64,13 +64,15 @@ TEST(ProcessList, ReadsTheTableAfreshOnEveryQuery)
 TEST(ProcessList, DumpLogsShortNamesAndReadableExecutables)
 {
     DescribedHostProbe host;
-    host.processes = {{1, "systemd", std::nullopt}, {9, "tvpolicy-agent-", std::string("/opt/tv/tvpolicy-agent-daemon")}};
+    host.processes = {{1, "systemd", std::nullopt},
+                      {9, "tvpolicy-agent-", std::string("/opt/tv/tvpolicy-agent-daemon")}};
     ScopedHost scope(host);
     testing_support::CaptureStream log(std::clog);
     ProcessList().dump();
     std::vector<std::string> messages = testing_support::logMessages(log.text());
     EXPECT_NE(log.text().find(" UTC :: old: systemd\n"), std::string::npos) << "timestamped lines";
-    EXPECT_EQ(messages, (std::vector<std::string>{"old: systemd", "old: tvpolicy-agent-", "new: tvpolicy-agent-daemon"}));
+    EXPECT_EQ(messages,
+              (std::vector<std::string>{"old: systemd", "old: tvpolicy-agent-", "new: tvpolicy-agent-daemon"}));
 }
 
 struct TaskCase {
@@ -91,11 +93,11 @@ TEST_P(ProcessExistsTaskTest, AnswersWithTheFixedTexts)
     EXPECT_EQ(run.response->code, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Attributes, ProcessExistsTaskTest, testing::Values(
-    TaskCase{{{"procName", "bash"}}, true},
-    TaskCase{{{"procName", "sshd"}}, false},
-    TaskCase{{}, false},                                           // no name: nothing has an empty name
-    TaskCase{{{"procname", "bash"}}, false},                       // attribute names are exact
-    TaskCase{{{"procName", "sshd"}, {"procName", "bash"}}, true}));  // the last one wins
+INSTANTIATE_TEST_SUITE_P(
+    Attributes, ProcessExistsTaskTest,
+    testing::Values(TaskCase{{{"procName", "bash"}}, true}, TaskCase{{{"procName", "sshd"}}, false},
+                    TaskCase{{}, false},                      // no name: nothing has an empty name
+                    TaskCase{{{"procname", "bash"}}, false},  // attribute names are exact
+                    TaskCase{{{"procName", "sshd"}, {"procName", "bash"}}, true}));  // the last one wins
 
 }  // namespace

@@ -11,9 +11,20 @@ namespace {
 
 // Every kind the library registers, in the order the registry must hold them.
 const std::vector<std::string> registeredKinds = {
-    "andTask", "falseTask", "notTask", "orTask", "trueTask", "ValidateTask", "MacOSXVersionTask",
-    "McAfeeVirusScanVersionTask", "AvastVersionTask", "VersionFromScriptTask", "VersionFromReceiptTask", "FileTask",
-    "ProcessExistsTask", "FlushDNSTask",
+    "andTask",
+    "falseTask",
+    "notTask",
+    "orTask",
+    "trueTask",
+    "ValidateTask",
+    "MacOSXVersionTask",
+    "McAfeeVirusScanVersionTask",
+    "AvastVersionTask",
+    "VersionFromScriptTask",
+    "VersionFromReceiptTask",
+    "FileTask",
+    "ProcessExistsTask",
+    "FlushDNSTask",
 };
 
 class RecordingTask : public Task {
@@ -50,9 +61,12 @@ TEST(TaskMap, FirstExactMatchWins)
     map.add("RecordingTask", &RecordingTask::create);
     map.add("OtherTask", &OtherTask::create);
     map.add("RecordingTask", &OtherTask::create);  // a duplicate is kept, but never found
-    const std::vector<std::pair<std::string, Task* (*)()>> cases = {
-        {"RecordingTask", &RecordingTask::create}, {"OtherTask", &OtherTask::create}, {"recordingtask", nullptr},
-        {"Recording", nullptr}, {"RecordingTask ", nullptr}, {"", nullptr}};
+    const std::vector<std::pair<std::string, Task* (*)()>> cases = {{"RecordingTask", &RecordingTask::create},
+                                                                    {"OtherTask", &OtherTask::create},
+                                                                    {"recordingtask", nullptr},
+                                                                    {"Recording", nullptr},
+                                                                    {"RecordingTask ", nullptr},
+                                                                    {"", nullptr}};
     for (const auto& [name, expected] : cases) {
         EXPECT_EQ(map.get(name), expected) << name;
     }

@@ -50,7 +50,9 @@ TEST(Utf8, NextAndAppendRoundTripEveryKindOfCodePoint)
 TEST(Utf8, FromUtf16ReplacesLoneSurrogates)
 {
     const char16_t pair[] = {u'a', 0xD83D, 0xDE00, u'b'};
-    EXPECT_EQ(tvpolicy::utf8::fromUtf16(pair, 4), "a\xF0\x9F\x98\x80" "b");
+    EXPECT_EQ(tvpolicy::utf8::fromUtf16(pair, 4),
+              "a\xF0\x9F\x98\x80"
+              "b");
     const char16_t lone[] = {u'a', 0xDC00, u'b'};
     EXPECT_EQ(tvpolicy::utf8::fromUtf16(lone, 3), "a" + fffd + "b");
     EXPECT_EQ(tvpolicy::utf8::fromUtf16(nullptr, 3), "");

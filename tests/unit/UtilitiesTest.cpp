@@ -35,15 +35,13 @@ TEST_P(SplitTest, BothFormsAppendTheSameTokens)
     EXPECT_EQ(std::vector<std::string>(listTokens.begin(), listTokens.end()), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Tokens, SplitTest, testing::Values(
-    SplitCase{",,a,,b,,", ",", {"a", "b"}},
-    SplitCase{"", ",", {}},
-    SplitCase{",,,", ",", {}},
-    SplitCase{"abc", "", {"abc"}},
-    SplitCase{"a b\tc", " \t", {"a", "b", "c"}},
-    SplitCase{"10.6.8", ".", {"10", "6", "8"}},
-    SplitCase{"a/:b:/c", "/:", {"a", "b", "c"}},
-    SplitCase{"single", ",", {"single"}}));
+INSTANTIATE_TEST_SUITE_P(Tokens, SplitTest,
+                         testing::Values(SplitCase{",,a,,b,,", ",", {"a", "b"}}, SplitCase{"", ",", {}},
+                                         SplitCase{",,,", ",", {}}, SplitCase{"abc", "", {"abc"}},
+                                         SplitCase{"a b\tc", " \t", {"a", "b", "c"}},
+                                         SplitCase{"10.6.8", ".", {"10", "6", "8"}},
+                                         SplitCase{"a/:b:/c", "/:", {"a", "b", "c"}},
+                                         SplitCase{"single", ",", {"single"}}));
 
 struct UrlCase {
     std::string url;
@@ -65,20 +63,25 @@ TEST_P(SplitUrlTest, FillsHostPortAndPage)
     EXPECT_EQ(parts["other"], "kept");
 }
 
-INSTANTIATE_TEST_SUITE_P(Urls, SplitUrlTest, testing::Values(
-    UrlCase{"svc://server:8443/a/b", "server", "8443", "/a/b"},
-    UrlCase{"svc://h:80", "h", "80", ""},
-    UrlCase{"svc://h:80//x//y/", "h", "80", "/x/y"},
-    UrlCase{"https://h/index.html", "h", "index.html", ""},
-    UrlCase{"svc://h", "h", "", ""},
-    UrlCase{"svc", "", "", ""},
-    UrlCase{"", "", "", ""}));
+INSTANTIATE_TEST_SUITE_P(Urls, SplitUrlTest,
+                         testing::Values(UrlCase{"svc://server:8443/a/b", "server", "8443", "/a/b"},
+                                         UrlCase{"svc://h:80", "h", "80", ""},
+                                         UrlCase{"svc://h:80//x//y/", "h", "80", "/x/y"},
+                                         UrlCase{"https://h/index.html", "h", "index.html", ""},
+                                         UrlCase{"svc://h", "h", "", ""}, UrlCase{"svc", "", "", ""},
+                                         UrlCase{"", "", "", ""}));
 
 TEST(Urlencode, EncodesAllButTheFirstCharacter)
 {
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"a&b=c d", "a%26b%3Dc%20d"}, {"%", "%"}, {"x%", "x%25"}, {"&&", "&%26"}, {"/a b", "/a%20b"}, {"", ""},
-        {"x\r\n\"#,./:;<>?", "x%0D%0A%22%23%2C%2E%2F%3A%3B%3C%3E%3F"}, {"a%20", "a%2520"},
+        {"a&b=c d", "a%26b%3Dc%20d"},
+        {"%", "%"},
+        {"x%", "x%25"},
+        {"&&", "&%26"},
+        {"/a b", "/a%20b"},
+        {"", ""},
+        {"x\r\n\"#,./:;<>?", "x%0D%0A%22%23%2C%2E%2F%3A%3B%3C%3E%3F"},
+        {"a%20", "a%2520"},
         {"a-_~+@!\xc3\xa9Z9", "a-_~+@!\xc3\xa9Z9"}};
     for (const auto& [text, encoded] : cases) {
         EXPECT_EQ(urlencode(text), encoded) << text;

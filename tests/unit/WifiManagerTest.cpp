@@ -22,10 +22,14 @@ bool has(const std::vector<std::string>& lines, const std::string& line)
 TEST(WifiManager, SecurityTableKeepsItsShiftedEnterpriseNumbers)
 {
     const std::vector<std::pair<WifiConfigurationProfile::Security, int>> table = {
-        {WifiConfigurationProfile::OPEN, 0}, {WifiConfigurationProfile::WEP, 1},
-        {WifiConfigurationProfile::WEP_ENTERPRISE, 4}, {WifiConfigurationProfile::WPA, 2},
-        {WifiConfigurationProfile::WPA_ENTERPRISE, 5}, {WifiConfigurationProfile::WPA2, 3},
-        {WifiConfigurationProfile::WPA2_ENTERPRISE, 6}, {static_cast<WifiConfigurationProfile::Security>(7), 0}};
+        {WifiConfigurationProfile::OPEN, 0},
+        {WifiConfigurationProfile::WEP, 1},
+        {WifiConfigurationProfile::WEP_ENTERPRISE, 4},
+        {WifiConfigurationProfile::WPA, 2},
+        {WifiConfigurationProfile::WPA_ENTERPRISE, 5},
+        {WifiConfigurationProfile::WPA2, 3},
+        {WifiConfigurationProfile::WPA2_ENTERPRISE, 6},
+        {static_cast<WifiConfigurationProfile::Security>(7), 0}};
     WifiManager manager;
     for (const auto& [security, mode] : table) {
         WifiConfigurationProfile profile;
@@ -88,19 +92,39 @@ const Network personal{"Campus", "0a:1b:2c:3d:4e:5f", {3}, "/ap/1", "<net Campus
 const Network enterprise{"Campus", "0a:1b:2c:3d:4e:5f", {3, 6}, "/ap/2", "<net Campus 802.1X>"};
 const Network wpaEnterprise{"Campus", "0a:1b:2c:3d:4e:5f", {5}, "/ap/3", "<net Campus WPA 802.1X>"};
 
-INSTANTIATE_TEST_SUITE_P(Cases, Join, testing::Values(
-    JoinCase{"already there", "Campus", {personal}, 1, true, 0, false,
-             {"ConnectToNetwork Already connected to target ssid"}},
-    JoinCase{"not visible", "Other", {}, 1, false, 0, false,
-             {"Current SSID = Other", "ConnectToProfile Network Signal Not Found..."}},
-    JoinCase{"personal, first attempt", "", {personal}, 1, true, 1, false,
-             {"Current SSID = (null)", "ConnectToProfile Signal: <net Campus>",
-              "connectToProfile attempting associateToNetwork.", "Current SSID 2 = (null)",
-              "connectToProfile AssociateToEnterpriseNetwork NSError: (null)",
-              "connectToProfile associateToNetwork completed."}},
-    JoinCase{"enterprise, third attempt", "Other", {enterprise}, 3, true, 3, true, {"Current SSID 2 = Other"}},
-    JoinCase{"WPA enterprise", "Other", {wpaEnterprise}, 1, true, 1, true, {}},
-    JoinCase{"never joins", "Other", {personal}, 0, false, 3, false, {}}),
+INSTANTIATE_TEST_SUITE_P(
+    Cases, Join,
+    testing::Values(
+        JoinCase{"already there",
+                 "Campus",
+                 {personal},
+                 1,
+                 true,
+                 0,
+                 false,
+                 {"ConnectToNetwork Already connected to target ssid"}},
+        JoinCase{"not visible",
+                 "Other",
+                 {},
+                 1,
+                 false,
+                 0,
+                 false,
+                 {"Current SSID = Other", "ConnectToProfile Network Signal Not Found..."}},
+        JoinCase{"personal, first attempt",
+                 "",
+                 {personal},
+                 1,
+                 true,
+                 1,
+                 false,
+                 {"Current SSID = (null)", "ConnectToProfile Signal: <net Campus>",
+                  "connectToProfile attempting associateToNetwork.", "Current SSID 2 = (null)",
+                  "connectToProfile AssociateToEnterpriseNetwork NSError: (null)",
+                  "connectToProfile associateToNetwork completed."}},
+        JoinCase{"enterprise, third attempt", "Other", {enterprise}, 3, true, 3, true, {"Current SSID 2 = Other"}},
+        JoinCase{"WPA enterprise", "Other", {wpaEnterprise}, 1, true, 1, true, {}},
+        JoinCase{"never joins", "Other", {personal}, 0, false, 3, false, {}}),
     [](const testing::TestParamInfo<JoinCase>& testCase) { return "case" + std::to_string(testCase.index); });
 
 TEST(WifiManager, NoInterfaceGivesFalseAtOnce)

@@ -13,8 +13,8 @@
 #include "support/CaptureStream.h"
 #include "support/XmlText.h"
 #include "xml/DomReader.h"
-#include "xml/ElementIndex.h"
 #include "xml/DomText.h"
+#include "xml/ElementIndex.h"
 
 using testing_support::CaptureStream;
 using tvpolicy::xml::WideText;
@@ -55,16 +55,17 @@ TEST_P(TranscodeTest, EveryFormGivesTheSameUtf8)
     EXPECT_EQ(out, c.utf8);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, TranscodeTest, testing::Values(
-    TranscodeCase{nullptr, ""},
-    TranscodeCase{u"", ""},
-    TranscodeCase{u"plain", "plain"},
-    TranscodeCase{u"caf\u00e9 \u20ac", "caf\xc3\xa9 \xe2\x82\xac"},
-    TranscodeCase{u"\U0001F600", "\xf0\x9f\x98\x80"}));
+INSTANTIATE_TEST_SUITE_P(Texts, TranscodeTest,
+                         testing::Values(TranscodeCase{nullptr, ""}, TranscodeCase{u"", ""},
+                                         TranscodeCase{u"plain", "plain"},
+                                         TranscodeCase{u"caf\u00e9 \u20ac", "caf\xc3\xa9 \xe2\x82\xac"},
+                                         TranscodeCase{u"\U0001F600", "\xf0\x9f\x98\x80"}));
 
 TEST(TV_XMLTranscoder, ReleaseIgnoresNull) { TV_XMLTranscoder::release(nullptr); }
 
-const std::string twoMessages = std::string("<r xmlns='") + com::torvane::agentSchemaNamespace + "' xmlns:o='urn:other'>"
+const std::string twoMessages =
+    std::string("<r xmlns='") + com::torvane::agentSchemaNamespace +
+    "' xmlns:o='urn:other'>"
     "<message>first</message><o:message>other</o:message><x><message>se<![CDATA[co]]><b>n</b>d</message></x>"
     "<o:late>outside</o:late></r>";
 
@@ -86,14 +87,16 @@ TEST_P(ExtractTextTest, LastMatchInTheNamespaceWins)
     EXPECT_EQ(out, GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Tags, ExtractTextTest, testing::Values(
-    ExtractCase{"message", "second"},  // text, CDATA and child text, second element
-    ExtractCase{"late", "kept"},       // only outside the namespace
-    ExtractCase{"absent", "kept"}));
+INSTANTIATE_TEST_SUITE_P(Tags, ExtractTextTest,
+                         testing::Values(ExtractCase{"message",
+                                                     "second"},        // text, CDATA and child text, second element
+                                         ExtractCase{"late", "kept"},  // only outside the namespace
+                                         ExtractCase{"absent", "kept"}));
 
 TEST(TextContent, MatchesTheDomWithoutRecursing)
 {
-    auto doc = parse(testing_support::repeat("<e>0<!--c--><?pi x?><e>1<!--c--><?pi x?>", 100) + testing_support::repeat("</e>", 200));
+    auto doc = parse(testing_support::repeat("<e>0<!--c--><?pi x?><e>1<!--c--><?pi x?>", 100) +
+                     testing_support::repeat("</e>", 200));
     ASSERT_TRUE(doc);
     auto* root = doc->getDocumentElement();
     EXPECT_EQ(tvpolicy::xml::textContent(root), tvpolicy::xml::XmlString(root->getTextContent()));
@@ -127,13 +130,15 @@ TEST(ParseErrorHandler, LogsWhereTheDocumentBreaks)
     EXPECT_NE(log.text().find(" Line: 3Column: "), std::string::npos) << log.text();
 }
 
-
 TEST(ElementIndex, FindsWhatGetElementsByTagNameNSFinds)
 {
     const std::string ns = com::torvane::agentSchemaNamespace;
-    auto doc = parse("<!DOCTYPE a:r [<!ENTITY inner '<a:n>in entity</a:n><a:m/>'>]>"
-                     "<a:r xmlns:a='" + ns + "' xmlns:o='urn:other'><a:n>1</a:n><o:n>x</o:n><n>y</n>"
-                     "<a:m><a:n>2</a:n>&inner;<a:k><a:n>3</a:n></a:k></a:m><a:n/></a:r>");
+    auto doc = parse(
+        "<!DOCTYPE a:r [<!ENTITY inner '<a:n>in entity</a:n><a:m/>'>]>"
+        "<a:r xmlns:a='" +
+        ns +
+        "' xmlns:o='urn:other'><a:n>1</a:n><o:n>x</o:n><n>y</n>"
+        "<a:m><a:n>2</a:n>&inner;<a:k><a:n>3</a:n></a:k></a:m><a:n/></a:r>");
     ASSERT_TRUE(doc);
     WideText uri(ns.c_str());
     tvpolicy::xml::ElementIndex index(doc.get(), uri, {u"n", u"m", u"r", u"absent"});

@@ -29,7 +29,8 @@ int main(int argc, char** argv)
 
     bool verbose = false;
     std::string logFile;
-    CLI::Option* verboseFlag = app.add_flag("-v,--verbose", verbose, "Show the library's own log lines on standard error");
+    CLI::Option* verboseFlag =
+        app.add_flag("-v,--verbose", verbose, "Show the library's own log lines on standard error");
     app.add_option("--log", logFile, "Append the library's own log lines to FILE (instead of -v)")
         ->option_text("FILE")
         ->excludes(verboseFlag);

@@ -15,13 +15,13 @@ namespace com::torvane {
 /// tvpolicy command does) turns them on with BasicHttpRequest::setBounds.
 struct TVPOLICY_API HttpBounds {
     bool enabled = false;
-    long connectTimeoutMs = 10000;          ///< to have the connection made (TLS included)
-    long totalTimeoutMs = 60000;            ///< for the whole transfer
-    long lowSpeedBytesPerSecond = 1;        ///< a transfer slower than this ...
-    long lowSpeedSeconds = 15;              ///< ... for this long is ended
-    std::size_t maxBodyBytes = 64u << 20;   ///< body (and, apart, headers) larger than this end the transfer
-    std::string protocols = "http,https";   ///< the schemes a URL may use (libcurl's list form)
-    std::string caFile;                     ///< trust the CAs of this PEM file instead of the system's
+    long connectTimeoutMs = 10000;         ///< to have the connection made (TLS included)
+    long totalTimeoutMs = 60000;           ///< for the whole transfer
+    long lowSpeedBytesPerSecond = 1;       ///< a transfer slower than this ...
+    long lowSpeedSeconds = 15;             ///< ... for this long is ended
+    std::size_t maxBodyBytes = 64u << 20;  ///< body (and, apart, headers) larger than this end the transfer
+    std::string protocols = "http,https";  ///< the schemes a URL may use (libcurl's list form)
+    std::string caFile;                    ///< trust the CAs of this PEM file instead of the system's
     /// When set, a transfer in flight ends (within a fraction of a second) once it turns true.
     const std::atomic<bool>* cancel = nullptr;
 };
@@ -31,12 +31,12 @@ enum class HttpOperation { get, post, head, download };
 
 /// Everything one request of BasicHttpRequest::transfer learnt.
 struct TVPOLICY_API HttpTransfer {
-    bool completed = false;    ///< the transfer ran to its end (whatever the status)
-    long responseCode = 0;     ///< the last HTTP status; 0 when no answer came
-    long verifyResult = 0;     ///< the TLS peer verification result (0 = verified or not asked)
-    std::string contents;      ///< the body (not for head and download)
-    std::string headers;       ///< every header line as received (get and post only)
-    std::string error;         ///< why the transfer failed; empty when it completed
+    bool completed = false;  ///< the transfer ran to its end (whatever the status)
+    long responseCode = 0;   ///< the last HTTP status; 0 when no answer came
+    long verifyResult = 0;   ///< the TLS peer verification result (0 = verified or not asked)
+    std::string contents;    ///< the body (not for head and download)
+    std::string headers;     ///< every header line as received (get and post only)
+    std::string error;       ///< why the transfer failed; empty when it completed
 };
 
 /// The agent's HTTP client: static operations, each making its own libcurl easy handle and

@@ -36,6 +36,5 @@ private:
 
 /// Assigns to `out` the text of the last element of `doc` named `tagName` in `namespaceUri`
 /// (anywhere in the document). With no such element `out` is left as it was.
-TVPOLICY_API void extractTextByTagName(xercesc::DOMDocument* doc, const char* tagName,
-                                       const XMLCh* namespaceUri, TV_XMLTranscoder& transcoder,
-                                       std::string& out);
+TVPOLICY_API void extractTextByTagName(xercesc::DOMDocument* doc, const char* tagName, const XMLCh* namespaceUri,
+                                       TV_XMLTranscoder& transcoder, std::string& out);

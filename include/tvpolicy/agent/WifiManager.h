@@ -34,7 +34,8 @@ public:
     /// associationAttempts attempts, with the stored 802.1X settings when the network is an
     /// enterprise one, else with `password`. True when the interface is, or ends, on the network.
     /// The last argument is not used.
-    bool connectToProfile(std::wstring name, std::string password, com::torvane::WifiConfigurationProfile::Security security,
+    bool connectToProfile(std::wstring name, std::string password,
+                          com::torvane::WifiConfigurationProfile::Security security,
                           std::wstring unused = std::wstring());
 
     /// The security mode number of the profile: OPEN 0, WEP 1, WEP_ENTERPRISE 4, WPA 2,

@@ -50,10 +50,10 @@ private:
 
 /// How a bounded read ended.
 enum class ReadEnd {
-    Complete,   ///< the end of the file was reached within the limit
-    OverLimit,  ///< there was more than the limit: the text holds the first `limit` bytes
-    WouldBlock, ///< a descriptor without blocking had nothing more for now: the text holds what came
-    Failed,     ///< a read failed; errno says why, and the text holds what came before
+    Complete,    ///< the end of the file was reached within the limit
+    OverLimit,   ///< there was more than the limit: the text holds the first `limit` bytes
+    WouldBlock,  ///< a descriptor without blocking had nothing more for now: the text holds what came
+    Failed,      ///< a read failed; errno says why, and the text holds what came before
 };
 
 /// Reads `fd` from where it stands into `text` (replacing it), up to `limit` bytes. A regular

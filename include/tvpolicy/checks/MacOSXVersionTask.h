@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include <tvpolicy/export.h>
 #include <tvpolicy/checks/VersionEvidence.h>
+#include <tvpolicy/export.h>
 #include <tvpolicy/policy/Task.h>
 
 /// The policy element MacOSXVersion: passes when the running OS's version (Machine::getOSVersion,

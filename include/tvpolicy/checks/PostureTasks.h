@@ -42,6 +42,6 @@ TVPOLICY_API std::vector<std::string> requiredPostureAttributes(const std::strin
 /// port, mode or pattern the check could not use ("maxMode is not an octal mode: 0999"), or
 /// empty when the value is usable or the attribute is not one the kind checks.
 TVPOLICY_API std::string postureAttributeProblem(const std::string& kind, const std::string& attribute,
-                                                const std::string& value);
+                                                 const std::string& value);
 
 }  // namespace tvpolicy

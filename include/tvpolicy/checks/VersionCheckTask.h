@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include <tvpolicy/export.h>
 #include <tvpolicy/checks/VersionEvidence.h>
+#include <tvpolicy/export.h>
 #include <tvpolicy/policy/Task.h>
 
 /// What the application and antivirus version checks share: a "required" version, a "delim"

@@ -22,7 +22,9 @@ using ApplicationInventory = std::list<std::shared_ptr<ApplicationInventoryItem>
 class TVPOLICY_API ApplicationInventoryItem {
 public:
     ApplicationInventoryItem(std::string name, std::string vendor, std::string version)
-        : name_(std::move(name)), vendor_(std::move(vendor)), version_(std::move(version))
+        : name_(std::move(name)),
+          vendor_(std::move(vendor)),
+          version_(std::move(version))
     {
     }
 

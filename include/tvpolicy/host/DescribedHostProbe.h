@@ -22,22 +22,22 @@ public:
     /// as well to keep relative paths inside a folder too.
     std::map<std::string, std::string> pathMap;
 
-    std::string productVersion;       ///< answered by osProductVersion(), as a tool prints it
-    std::string productName;          ///< answered by osProductName()
-    std::string node;                 ///< answered by nodeName()
-    std::string architecture;         ///< answered by machineArchitecture()
-    HardwareIdentity hardware;        ///< answered by hardwareIdentity()
+    std::string productVersion;           ///< answered by osProductVersion(), as a tool prints it
+    std::string productName;              ///< answered by osProductName()
+    std::string node;                     ///< answered by nodeName()
+    std::string architecture;             ///< answered by machineArchitecture()
+    HardwareIdentity hardware;            ///< answered by hardwareIdentity()
     std::vector<ProcessEntry> processes;  ///< answered by processTable()
-    std::string flushCommand;         ///< answered by dnsFlushCommand()
+    std::string flushCommand;             ///< answered by dnsFlushCommand()
 
-    int commandStatus = 0;                 ///< what runShellCommand returns
+    int commandStatus = 0;  ///< what runShellCommand returns
     /// What commandOutput answers for each command; a command not listed prints nothing.
     std::map<std::string, std::string> commandOutputs;
-    ApplicationListing applications;       ///< answered by applicationListing()
+    ApplicationListing applications;  ///< answered by applicationListing()
 
     /// Answer messages of dnsQuery by query name and type; an unlisted query gets none.
     std::map<std::pair<std::string, int>, std::vector<unsigned char>> dnsAnswers;
-    std::string searchDomain;              ///< answered by dnsDefaultDomain()
+    std::string searchDomain;  ///< answered by dnsDefaultDomain()
 
     std::string systemPath(const std::string& path) const override;
     std::string osProductVersion() const override;

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include <tvpolicy/export.h>
 #include <tvpolicy/base/Signal.h>
+#include <tvpolicy/export.h>
 
 namespace tvpolicy {
 class StopLatch;

@@ -129,13 +129,13 @@ private:
 /// mounted); files not listed in `files` are asked of this system's backend.
 class TVPOLICY_API DescribedPosture : public PostureProbe {
 public:
-    std::map<std::string, UnitState> units;           ///< by full unit name
+    std::map<std::string, UnitState> units;  ///< by full unit name
     std::vector<ListeningSocket> listening;
     std::vector<FilterChain> filterChains;
-    std::string mounts;                               ///< in the format of /proc/self/mountinfo
-    std::map<std::string, BlockDevice> blockDevices;  ///< by "major:minor"
+    std::string mounts;                                   ///< in the format of /proc/self/mountinfo
+    std::map<std::string, BlockDevice> blockDevices;      ///< by "major:minor"
     std::map<std::string, std::string> kernelParameters;  ///< by dotted name
-    std::map<std::string, FileStatus> files;          ///< by system path
+    std::map<std::string, FileStatus> files;              ///< by system path
 
     /// Adds `mountPoint` to `mounts` on a device of its own, placed on a dm-crypt device when
     /// `encrypted`.

@@ -5,9 +5,9 @@
 #include <memory>
 #include <mutex>
 
+#include <tvpolicy/base/Signal.h>
 #include <tvpolicy/export.h>
 #include <tvpolicy/host/EventProbe.h>
-#include <tvpolicy/base/Signal.h>
 
 namespace tvpolicy {
 class StopLatch;

@@ -13,9 +13,9 @@
 #include <xercesc/sax2/DefaultHandler.hpp>
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 
+#include <tvpolicy/base/Signal.h>
 #include <tvpolicy/export.h>
 #include <tvpolicy/policy/TaskSource.h>
-#include <tvpolicy/base/Signal.h>
 
 class Option;
 class Section;

@@ -102,8 +102,7 @@ std::size_t countOf(const PlistValue& array) { return array.items.size(); }
 
 }  // namespace
 
-std::vector<InstalledApplication> applicationsFromProfiler(const std::string& xml, std::ostream& out,
-                                                           std::ostream& err)
+std::vector<InstalledApplication> applicationsFromProfiler(const std::string& xml, std::ostream& out, std::ostream& err)
 {
     std::vector<InstalledApplication> applications;
     std::string error;
@@ -172,8 +171,9 @@ std::vector<InstalledApplication> packagesFromRpmQuery(const std::string& output
         std::size_t tab = line.find('\t');
         std::string_view name = trimmed(line.substr(0, tab));
         if (!name.empty()) {
-            packages.push_back({std::string(name), tab == std::string_view::npos ? std::string()
-                                                                                 : std::string(trimmed(line.substr(tab + 1)))});
+            packages.push_back({std::string(name), tab == std::string_view::npos
+                                                       ? std::string()
+                                                       : std::string(trimmed(line.substr(tab + 1)))});
         }
     });
     return packages;

@@ -11,7 +11,7 @@ struct MountEntry {
     std::string device;      ///< "major:minor" of the mounted device
     std::string mountPoint;  ///< octal escapes ("\040") undone
     std::string fsType;
-    std::string source;      ///< octal escapes undone
+    std::string source;  ///< octal escapes undone
 };
 
 /// The lines of a mountinfo text that have all the fields up to the source, in order; lines

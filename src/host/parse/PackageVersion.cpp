@@ -165,7 +165,8 @@ RpmVersion splitRpm(const std::string& text)
     RpmVersion parts;
     std::string rest = text;
     std::size_t colon = rest.find(':');
-    if (colon != std::string::npos && std::all_of(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(colon), isDigit)) {
+    if (colon != std::string::npos &&
+        std::all_of(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(colon), isDigit)) {
         parts.epoch = rest.substr(0, colon);
         rest.erase(0, colon + 1);
     }

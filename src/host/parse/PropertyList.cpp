@@ -36,9 +36,8 @@ struct TypeName {
 };
 
 constexpr TypeName scalarTypes[] = {
-    {u"string", PlistValue::Type::String}, {u"integer", PlistValue::Type::Integer},
-    {u"real", PlistValue::Type::Real},     {u"date", PlistValue::Type::Date},
-    {u"data", PlistValue::Type::Data},
+    {u"string", PlistValue::Type::String}, {u"integer", PlistValue::Type::Integer}, {u"real", PlistValue::Type::Real},
+    {u"date", PlistValue::Type::Date},     {u"data", PlistValue::Type::Data},
 };
 
 // The nesting of the document is bounded by the reader, so the recursion is too.
@@ -48,9 +47,8 @@ PlistValue valueOf(const DOMNode* element)
     PlistValue value;
     if (xml::sameName(name, u"array")) {
         value.type = PlistValue::Type::Array;
-        xml::forEachChildElement(element, [&value](const XMLCh*, const DOMNode* child) {
-            value.items.push_back(valueOf(child));
-        });
+        xml::forEachChildElement(
+            element, [&value](const XMLCh*, const DOMNode* child) { value.items.push_back(valueOf(child)); });
     } else if (xml::sameName(name, u"dict")) {
         value.type = PlistValue::Type::Dictionary;
         std::optional<std::string> key;

@@ -8,8 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "host/AccountNames.h"
 #include <tvpolicy/base/OwnedFd.h>
+#include "host/AccountNames.h"
 
 namespace tvpolicy::probe {
 

@@ -33,10 +33,7 @@ using Json = nlohmann::ordered_json;
 constexpr int statusAttempts = 3;  // the first ask and at most two after joining a network
 
 // The server's cookie as the Cookie header sends it back: its name=value, no attributes.
-std::string cookieValue(const std::string& setCookie)
-{
-    return setCookie.substr(0, setCookie.find(';'));
-}
+std::string cookieValue(const std::string& setCookie) { return setCookie.substr(0, setCookie.find(';')); }
 
 std::string withQuery(const std::string& url, const std::string& query)
 {
@@ -167,23 +164,20 @@ CycleReport AgentCycle::run(const std::string& base)
         }
     }
     switch (status->getStatus()) {
-    case AgentStatusXML::AUTH_FAILURE:
-        return ended(Outcome::authFailure, status->getMessage());
+    case AgentStatusXML::AUTH_FAILURE: return ended(Outcome::authFailure, status->getMessage());
     case AgentStatusXML::SUCCESS:
-    case AgentStatusXML::SCAN_SUCCESS:
-        return ended(Outcome::nothingToDo, status->getMessage());
-    case AgentStatusXML::NEEDS_SCAN:
-        break;
-    default:
-        return ended(Outcome::cycleFailed, "the server answered an error: " + status->getMessage());
+    case AgentStatusXML::SCAN_SUCCESS: return ended(Outcome::nothingToDo, status->getMessage());
+    case AgentStatusXML::NEEDS_SCAN: break;
+    default: return ended(Outcome::cycleFailed, "the server answered an error: " + status->getMessage());
     }
     if (config->scanUrl.empty()) {
         return ended(Outcome::cycleFailed, "the server's configuration names no scan address", status->getScanName());
     }
     scan_ = status->getScanName();
     std::string uid = status->getUid().empty() ? config->uid : status->getUid();
-    std::string url = withQuery(behind(base, config->scanUrl), "scan=" + BasicHttpRequest::urlEncode(status->getScanName()) +
-                                                             "&uid=" + BasicHttpRequest::urlEncode(uid));
+    std::string url =
+        withQuery(behind(base, config->scanUrl), "scan=" + BasicHttpRequest::urlEncode(status->getScanName()) +
+                                                     "&uid=" + BasicHttpRequest::urlEncode(uid));
     CycleReport report = scanAndReport(url, status->getScanName(), uid);
     report.scan = status->getScanName();
     return report;
@@ -238,8 +232,8 @@ CycleReport AgentCycle::scanAndReport(const std::string& url, const std::string&
     // Names sort in the order the cycles ran; a result sent again keeps its own.
     char cycle[24];
     std::snprintf(cycle, sizeof cycle, "%020lld",
-                  static_cast<long long>(std::chrono::duration_cast<std::chrono::nanoseconds>(
-                                             started.time_since_epoch()).count()));
+                  static_cast<long long>(
+                      std::chrono::duration_cast<std::chrono::nanoseconds>(started.time_since_epoch()).count()));
     results["agent"] = {{"id", Machine::getHostName()}, {"uid", uid}, {"scan", scan}, {"cycle", cycle}};
     if (!policy->getResultsUrl().empty() && !state_.queue(policy->getResultsUrl(), results.dump(), error)) {
         console_.err() << "tvpolicy agent: the results were not kept: " << error << '\n';

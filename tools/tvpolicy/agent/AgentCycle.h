@@ -25,7 +25,7 @@ enum class Outcome {
 struct CycleReport {
     Outcome outcome = Outcome::unreached;
     std::string scan;
-    std::string message;  ///< why it did not pass, or what the server said
+    std::string message;        ///< why it did not pass, or what the server said
     bool renewAddress = false;  ///< the policy passed and asks for the addresses to be renewed
 };
 

@@ -1,10 +1,10 @@
 #include "agent/AgentRuntime.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
-#include <stdexcept>
 #include <unistd.h>
+#include <cerrno>
+#include <stdexcept>
 
 namespace tvpolicy::cli::agent {
 
@@ -90,7 +90,9 @@ Wake AgentSignals::wait(std::chrono::milliseconds timeout)
         if (left.count() <= 0) {
             return Wake::timeout;
         }
-        struct pollfd wake {readEnd_.get(), POLLIN, 0};
+        struct pollfd wake {
+            readEnd_.get(), POLLIN, 0
+        };
         if (::poll(&wake, 1, static_cast<int>(std::min<long long>(left.count(), 3600000))) > 0) {
             drain();
         }

@@ -1,9 +1,9 @@
 #include "agent/AgentSettings.h"
 
+#include <sys/stat.h>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <sys/stat.h>
 
 #include <toml++/toml.h>
 
@@ -28,8 +28,8 @@ std::optional<std::chrono::milliseconds> parseDuration(const std::string& text)
     }
     long long number = std::stoll(text.substr(0, digits));
     const std::string unit = text.substr(digits);
-    const std::map<std::string, long long> millisecondsPer = {
-        {"", 1000}, {"s", 1000}, {"ms", 1}, {"m", 60000}, {"h", 3600000}, {"d", 86400000}};
+    const std::map<std::string, long long> millisecondsPer = {{"", 1000},   {"s", 1000},    {"ms", 1},
+                                                              {"m", 60000}, {"h", 3600000}, {"d", 86400000}};
     auto found = millisecondsPer.find(unit);
     if (found == millisecondsPer.end() || number == 0) {
         return std::nullopt;
@@ -89,8 +89,10 @@ bool readLogin(const toml::node& node, std::map<std::string, std::string>& login
 
 bool readKey(const std::string& key, const toml::node& node, AgentSettings& settings, std::string& error)
 {
-    const std::map<std::string, std::string*> texts = {{"server", &settings.server},   {"discover", &settings.discover},
-                                                       {"domain", &settings.domain},   {"state_dir", &settings.stateDir},
+    const std::map<std::string, std::string*> texts = {{"server", &settings.server},
+                                                       {"discover", &settings.discover},
+                                                       {"domain", &settings.domain},
+                                                       {"state_dir", &settings.stateDir},
                                                        {"cacert", &settings.cacert}};
     if (auto text = texts.find(key); text != texts.end()) {
         return readText(node, key, *text->second, error);

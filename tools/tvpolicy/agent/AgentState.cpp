@@ -46,8 +46,9 @@ bool AgentState::prepare(std::string& error) const
 bool AgentState::queue(const std::string& url, const std::string& body, std::string& error)
 {
     // Milliseconds since the epoch, then a sequence number: names sort in the order written.
-    auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
-                   std::chrono::system_clock::now().time_since_epoch()).count();
+    auto now =
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::system_clock::now().time_since_epoch())
+            .count();
     char name[48];
     std::snprintf(name, sizeof name, "%015lld-%06u.json", static_cast<long long>(now), sequence_++ % 1000000);
     Json entry = {{"url", url}, {"body", body}};

@@ -1,12 +1,12 @@
 #include "agent/Discovery.h"
 
-#include <cerrno>
 #include <fcntl.h>
-#include <list>
 #include <netdb.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
+#include <cerrno>
+#include <list>
 
 #include <tvpolicy/agent/SRVRecord.h>
 #include <tvpolicy/agent/TXTRecord.h>
@@ -50,7 +50,9 @@ bool accepts(const std::string& host, unsigned port, const std::atomic<bool>& st
         if (errno != EINPROGRESS) {
             continue;
         }
-        struct pollfd writable {socket.get(), POLLOUT, 0};
+        struct pollfd writable {
+            socket.get(), POLLOUT, 0
+        };
         int ready = 0;
         for (int waited = 0; ready == 0 && waited < connectTimeoutMs && !stop; waited += stopCheckMs) {
             ready = ::poll(&writable, 1, stopCheckMs);

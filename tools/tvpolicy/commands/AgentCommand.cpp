@@ -99,7 +99,8 @@ bool settle(const AgentOptions& options, AgentSettings& settings, std::string& e
         bool https = settings.server.rfind("https://", 0) == 0;
         bool http = settings.server.rfind("http://", 0) == 0;
         if (!https && !(http && settings.allowHttp)) {
-            error = http ? "the server " + settings.server + " is plain http: allow it with allow_http = true or --allow-http"
+            error = http ? "the server " + settings.server +
+                               " is plain http: allow it with allow_http = true or --allow-http"
                          : "the server must be an https:// address, not '" + settings.server + "'";
             return false;
         }
@@ -251,7 +252,8 @@ milliseconds Agent::untilNextMonitor() const
     ::clock_gettime(CLOCK_REALTIME, &now);
     for (const auto& monitor : monitors_) {
         const std::timespec& due = monitor->getNextRunTime();
-        long long left = (static_cast<long long>(due.tv_sec) - now.tv_sec) * 1000 + (due.tv_nsec - now.tv_nsec) / 1000000;
+        long long left =
+            (static_cast<long long>(due.tv_sec) - now.tv_sec) * 1000 + (due.tv_nsec - now.tv_nsec) / 1000000;
         soonest = std::min(soonest, milliseconds(std::max(left, 0LL)));
     }
     return soonest;
@@ -408,8 +410,10 @@ void Agent::report(const std::string& reason, const std::string& server, const C
     std::string when = isoTime(std::chrono::system_clock::now());
     bool plain = server.rfind("http://", 0) == 0;
     if (options_.json) {
-        Json line = {{"time", when},       {"reason", reason},
-                     {"server", server},   {"scan", outcome.scan},
+        Json line = {{"time", when},
+                     {"reason", reason},
+                     {"server", server},
+                     {"scan", outcome.scan},
                      {"verdict", outcomeWord(outcome.outcome)},
                      {"durationSeconds", static_cast<double>(static_cast<long long>(seconds * 1000)) / 1000}};
         if (!outcome.message.empty()) {
@@ -501,8 +505,9 @@ int Agent::run()
         if (options_.json) {
             console_.out() << verdict->dump() << '\n';
         } else {
-            console_.out() << (*verdict)["verdict"].get<std::string>() << " at " << (*verdict)["when"].get<std::string>()
-                           << " (server " << (*verdict)["server"].get<std::string>() << ", scan "
+            console_.out() << (*verdict)["verdict"].get<std::string>() << " at "
+                           << (*verdict)["when"].get<std::string>() << " (server "
+                           << (*verdict)["server"].get<std::string>() << ", scan "
                            << (*verdict)["scan"].get<std::string>() << ")\n";
             if (verdict->contains("addresses")) {
                 for (const auto& [name, addresses] : (*verdict)["addresses"].items()) {
@@ -595,13 +600,15 @@ CommandAction setupAgent(CLI::App& app)
         ->each([options](const std::string&) { options->configGiven = true; });
     app.add_option("--server", options->server, "The server's base address (https://, or http:// with --allow-http)")
         ->option_text("URL");
-    app.add_option("--discover", options->discover, "Find the server through DNS SRV records of SERVICE (default tvpolicy)")
+    app.add_option("--discover", options->discover,
+                   "Find the server through DNS SRV records of SERVICE (default tvpolicy)")
         ->option_text("SERVICE");
     app.add_option("--domain", options->domain, "The domain of the SRV records (default: the search domain)")
         ->option_text("D");
     app.add_flag("--once", options->once,
                  "Run one cycle: exit 0 passed, 1 failed, 3 no server reached or the cycle failed, 4 login refused");
-    app.add_option("--state-dir", options->stateDir, "Keep results and the last verdict here (default /var/lib/tvpolicy)")
+    app.add_option("--state-dir", options->stateDir,
+                   "Keep results and the last verdict here (default /var/lib/tvpolicy)")
         ->option_text("DIR");
     app.add_option("--interval", options->interval, "Time between two cycles (default 4h)")->option_text("DURATION");
     app.add_option("--cacert", options->cacert, "Trust the CAs of this PEM file for the server")->option_text("FILE");

@@ -38,7 +38,8 @@ CommandAction setupApps(CLI::App& app)
         bool json = false;
     };
     auto options = std::make_shared<Options>();
-    auto* xml = app.add_flag("--xml", options->xml, "Print the app fragments the agent sends to the server, one a line");
+    auto* xml =
+        app.add_flag("--xml", options->xml, "Print the app fragments the agent sends to the server, one a line");
     app.add_flag("--json", options->json, "Print the applications as a JSON array")->excludes(xml);
     return [options](Console& console) {
         ApplicationInventory inventory = ApplicationInventoryItem::getInstances();
@@ -53,7 +54,8 @@ CommandAction setupApps(CLI::App& app)
         } else if (options->json) {
             Json list = Json::array();
             for (const auto& item : inventory) {
-                list.push_back({{"name", item->getName()}, {"version", item->getVersion()}, {"vendor", item->getVendor()}});
+                list.push_back(
+                    {{"name", item->getName()}, {"version", item->getVersion()}, {"vendor", item->getVendor()}});
             }
             console.out() << list.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
         } else {

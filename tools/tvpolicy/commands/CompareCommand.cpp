@@ -30,7 +30,8 @@ CommandAction setupCompare(CLI::App& app)
                    "check without a delim attribute (then the versions are compared as whole words); pass "
                    "--delim . for dotted versions");
     app.add_flag("--normalize", options->normalize, "Keep only digits and delimiters of SYSTEM before comparing");
-    CLI::Option* order = app.add_option("--order", options->order, "Rearrange SYSTEM's words first, by index: \"2 1 0\"");
+    CLI::Option* order =
+        app.add_option("--order", options->order, "Rearrange SYSTEM's words first, by index: \"2 1 0\"");
     return [options, order](Console& console) {
         std::string op = options->op;
         if (DelimVersion::parseCmpOper(op) == DelimVersion::gte && op != "gte") {
@@ -46,9 +47,9 @@ CommandAction setupCompare(CLI::App& app)
         }
         DelimVersion version(op);
         version.setNormalize(options->normalize);
-        bool result = order->count() > 0
-                          ? version.versionAtLeastReorder(options->requested, options->delim, options->system, options->order)
-                          : version.versionAtLeast(options->requested, options->delim, options->system);
+        bool result = order->count() > 0 ? version.versionAtLeastReorder(options->requested, options->delim,
+                                                                         options->system, options->order)
+                                         : version.versionAtLeast(options->requested, options->delim, options->system);
         console.out() << (result ? "true" : "false") << '\n';
         return result ? exitPassed : exitFailed;
     };

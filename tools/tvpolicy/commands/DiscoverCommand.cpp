@@ -65,8 +65,9 @@ EmptyAnswer whyEmpty(const std::string& name, const std::optional<tvpolicy::Name
     }
     // A refusal or a server failure comes back at once; silence lasts the whole wait.
     if (std::chrono::steady_clock::now() - started < std::chrono::seconds(4)) {
-        return {"no-answer", asked + " refused or failed the question for " + name +
-                              " (nothing listens there, or it does not serve that domain)",
+        return {"no-answer",
+                asked + " refused or failed the question for " + name +
+                    " (nothing listens there, or it does not serve that domain)",
                 exitUnfetched};
     }
     return {"no-answer", "no answer from " + asked + " within 5 s", exitUnfetched};
@@ -92,7 +93,8 @@ int runDiscover(const DiscoverOptions& options, Console& console)
     const char* protocol = options.protocol.c_str();
     const std::string name = "_" + options.service + "._" + options.protocol + "." + domain;
     // Every question at once: a name server that never answers costs one wait, not three.
-    auto settings = std::async(std::launch::async, [&] { return TXTRecord::lookup(service, protocol, domain.c_str(), server); });
+    auto settings =
+        std::async(std::launch::async, [&] { return TXTRecord::lookup(service, protocol, domain.c_str(), server); });
     auto diagnosis = std::async(std::launch::async, [&] { return whyEmpty(name, server); });
     RecordList found{SRVRecord::lookup(service, protocol, domain.c_str(), server)};
     std::list<std::string> texts = settings.get()->getRawData();
@@ -104,8 +106,10 @@ int runDiscover(const DiscoverOptions& options, Console& console)
     if (options.json) {
         Json servers = Json::array();
         for (const SRVRecord* record : found.records) {
-            servers.push_back({{"priority", record->getPriority()}, {"weight", record->getWeight()},
-                               {"port", record->getPort()}, {"target", record->getName()}});
+            servers.push_back({{"priority", record->getPriority()},
+                               {"weight", record->getWeight()},
+                               {"port", record->getPort()},
+                               {"target", record->getName()}});
         }
         Json shown = {{"name", name}, {"srv", servers}, {"txt", texts}, {"error", nullptr}};
         if (empty) {

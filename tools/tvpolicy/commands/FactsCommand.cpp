@@ -24,7 +24,8 @@ struct Fact {
 std::vector<Fact> gatherFacts()
 {
     auto processes = tvpolicy::currentHost().processTable();
-    auto withheld = std::count_if(processes.begin(), processes.end(), [](const auto& p) { return p.executableWithheld; });
+    auto withheld =
+        std::count_if(processes.begin(), processes.end(), [](const auto& p) { return p.executableWithheld; });
     return {
         {"osVersion", "OS version", Machine::getOSVersion()},
         {"os", "OS", Machine::getOSString()},

@@ -50,10 +50,7 @@ int exitFor(const HttpTransfer& transfer)
     return transfer.responseCode >= 200 && transfer.responseCode <= 299 ? exitPassed : exitFailed;
 }
 
-std::string jsonText(const Json& value)
-{
-    return value.dump(2, ' ', false, Json::error_handler_t::replace);
-}
+std::string jsonText(const Json& value) { return value.dump(2, ' ', false, Json::error_handler_t::replace); }
 
 // post: the client's post2 map, as the agent sees it.
 int runPost(const HttpOptions& options, const std::string& body, Console& console)
@@ -133,8 +130,9 @@ HttpTransfer getFollowing(const HttpOptions& options, Console& console)
         }
         std::string next = resolved(url, location);
         console.err() << "tvpolicy http: " << url << " answered " << outcome.responseCode << ", a redirect to " << next
-                      << (options.follow ? hop < 10 ? ": following it" : ": not followed, ten redirects were followed already"
-                                         : ": not followed (-L follows it)")
+                      << (options.follow
+                              ? hop < 10 ? ": following it" : ": not followed, ten redirects were followed already"
+                              : ": not followed (-L follows it)")
                       << '\n';
         if (!options.follow || hop >= 10) {
             return outcome;
@@ -187,8 +185,8 @@ int runHttp(const HttpOptions& options, Console& console)
     bool success = exitFor(outcome) == exitPassed;
 
     if (options.json) {
-        Json shown = {{"responseCode", outcome.responseCode}, {"verifyResult", outcome.verifyResult},
-                      {"error", outcome.error}};
+        Json shown = {
+            {"responseCode", outcome.responseCode}, {"verifyResult", outcome.verifyResult}, {"error", outcome.error}};
         if (operation == HttpOperation::get) {
             shown["headers"] = outcome.headers;
             shown["contents"] = outcome.contents;
@@ -229,10 +227,12 @@ CommandAction setupHttp(CLI::App& app)
 {
     auto options = std::make_shared<HttpOptions>();
     app.add_option("OPERATION", options->operation, "get, post, head or download")
-        ->required()->check(CLI::IsMember({"get", "post", "head", "download"}));
+        ->required()
+        ->check(CLI::IsMember({"get", "post", "head", "download"}));
     app.add_option("URL", options->url, "An http or https address")->required();
     app.add_option("--data", options->data, "The body of a post; @FILE sends the bytes of FILE")->option_text("D");
-    app.add_option("--cacert", options->caFile, "Trust the certificate authorities of this PEM file instead of the system's")
+    app.add_option("--cacert", options->caFile,
+                   "Trust the certificate authorities of this PEM file instead of the system's")
         ->option_text("FILE")
         ->check(CLI::ExistingFile);
     app.add_flag("-L,--location", options->follow,
@@ -243,7 +243,8 @@ CommandAction setupHttp(CLI::App& app)
     app.add_option("--timeout", options->timeoutSeconds, "Give up after this many seconds (default 60)")
         ->check(CLI::Range(0.1, 86400.0));
     app.add_option("--max-size", options->maxBytes, "Give up on an answer larger than BYTES (default 64 MiB)")
-        ->option_text("BYTES")->check(CLI::PositiveNumber);
+        ->option_text("BYTES")
+        ->check(CLI::PositiveNumber);
     return [options](Console& console) { return runHttp(*options, console); };
 }
 

@@ -36,10 +36,19 @@ std::vector<std::string> ipv6Of(const NetworkInterface& interface)
 
 Json interfaceJson(const std::string& key, const NetworkInterface& i)
 {
-    return {{"key", key}, {"name", i.getName()}, {"mac", i.getMACAddress()}, {"ipv4", ipv4Of(i)}, {"ipv6", ipv6Of(i)},
-            {"description", i.getDescription()}, {"medium", i.getMedium()}, {"essid", i.getESSID()},
-            {"bssid", i.getBSSID()}, {"dnsSuffix", i.getDNSSuffix()}, {"vmName", i.getVMName()},
-            {"virtualGuest", i.isVirtualGuest()}, {"up", i.isUp()}};
+    return {{"key", key},
+            {"name", i.getName()},
+            {"mac", i.getMACAddress()},
+            {"ipv4", ipv4Of(i)},
+            {"ipv6", ipv6Of(i)},
+            {"description", i.getDescription()},
+            {"medium", i.getMedium()},
+            {"essid", i.getESSID()},
+            {"bssid", i.getBSSID()},
+            {"dnsSuffix", i.getDNSSuffix()},
+            {"vmName", i.getVMName()},
+            {"virtualGuest", i.isVirtualGuest()},
+            {"up", i.isUp()}};
 }
 
 std::string joined(const std::vector<std::string>& values, const char* separator)

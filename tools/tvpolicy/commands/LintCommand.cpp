@@ -29,8 +29,8 @@ Json listOf(const std::vector<Notice>& notices)
 {
     Json list = Json::array();
     for (const Notice& notice : notices) {
-        list.push_back({{"kind", notice.kind}, {"line", notice.line}, {"section", notice.section},
-                        {"message", notice.message}});
+        list.push_back(
+            {{"kind", notice.kind}, {"line", notice.line}, {"section", notice.section}, {"message", notice.message}});
     }
     return list;
 }

@@ -12,10 +12,10 @@
 #include <tvpolicy/checks/Monitor.h>
 
 #include "commands/Command.h"
+#include "io/StopSignals.h"
 #include "policy/DocumentFile.h"
 #include "policy/UnreadElements.h"
 #include "report/MonitorRun.h"
-#include "io/StopSignals.h"
 
 namespace tvpolicy::cli {
 
@@ -121,8 +121,7 @@ CommandAction setupMonitor(CLI::App& app)
     };
     auto options = std::make_shared<Options>();
     app.add_option("FILE", options->file, "A document of Monitor elements, or - for standard input")->required();
-    auto* once = app.add_flag("--once", options->once,
-                              "Run every monitor once; exit 0 only when all report true");
+    auto* once = app.add_flag("--once", options->once, "Run every monitor once; exit 0 only when all report true");
     const CLI::Validator atLeastOne(
         [](std::string& value) {
             try {
@@ -136,8 +135,10 @@ CommandAction setupMonitor(CLI::App& app)
         "N");
     app.add_flag("--strict", options->strict,
                  "Refuse (exit 2) a document that holds elements or attributes the monitors would not evaluate");
-    app.add_option("--count", options->count, "Stop after N runs in all (N at least 1); exit 0 only when all reported true")
-        ->check(atLeastOne)->excludes(once);
+    app.add_option("--count", options->count,
+                   "Stop after N runs in all (N at least 1); exit 0 only when all reported true")
+        ->check(atLeastOne)
+        ->excludes(once);
     app.add_flag("--json", options->json,
                  "Print one JSON object per run (time, id, status, each check performed and why a false status)");
 
@@ -167,9 +168,9 @@ CommandAction setupMonitor(CLI::App& app)
     };
 }
 
-const bool registered = registerCommand(
-    {"monitor", "Run the monitors of a document, each when it is due, printing each status XML line", 30,
-     &setupMonitor});
+const bool registered =
+    registerCommand({"monitor", "Run the monitors of a document, each when it is due, printing each status XML line",
+                     30, &setupMonitor});
 
 }  // namespace
 }  // namespace tvpolicy::cli

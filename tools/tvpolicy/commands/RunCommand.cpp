@@ -4,10 +4,10 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
-#include <utility>
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -21,19 +21,19 @@
 #include <tvpolicy/policy/Section.h>
 
 #include "commands/Command.h"
+#include "io/TeeStreamBuf.h"
+#include "io/TerminalText.h"
 #include "policy/BoundedCommandHost.h"
 #include "policy/DescribedHost.h"
 #include "policy/DocumentFile.h"
 #include "policy/PolicyInput.h"
+#include "policy/PolicyNotices.h"
 #include "report/HtmlReport.h"
 #include "report/JunitReport.h"
-#include "policy/PolicyNotices.h"
 #include "report/PolicyReport.h"
 #include "report/ResultsFile.h"
 #include "report/RunProgress.h"
 #include "report/Sha256.h"
-#include "io/TeeStreamBuf.h"
-#include "io/TerminalText.h"
 
 namespace tvpolicy::cli {
 
@@ -92,7 +92,8 @@ std::unique_ptr<Policy> fetchPolicy(const RunOptions& options, Console& console,
     }
     if (!options.allowScripts) {
         setCommandGate([](const std::string& command) {
-            return "the command '" + command + "' was not run: the policy was fetched, and --allow-scripts was not given";
+            return "the command '" + command +
+                   "' was not run: the policy was fetched, and --allow-scripts was not given";
         });
     }
     bytes = std::move(fetched.contents);
@@ -242,17 +243,17 @@ int evaluate(const RunOptions& options, Console& console, const BoundedCommandHo
         notices.push_back(notice);
     }
     for (const Notice& notice : notices) {
-        console.err() << "tvpolicy run: " << toned("warning", Tone::warn, errColour) << ": "
-                      << describe(notice) << '\n';
+        console.err() << "tvpolicy run: " << toned("warning", Tone::warn, errColour) << ": " << describe(notice)
+                      << '\n';
     }
     if (options.strict && documentWarnings > 0) {
         console.err() << "tvpolicy run: --strict: the policy holds what would not be evaluated; it was not run\n";
         return exitUsage;
     }
 
-    auto mode = options.quiet                           ? RunProgress::Mode::quiet
+    auto mode = options.quiet                    ? RunProgress::Mode::quiet
                 : smartTerminal(console.errFd()) ? RunProgress::Mode::bar
-                                                        : RunProgress::Mode::lines;
+                                                 : RunProgress::Mode::lines;
     RunProgress progress(console.err(), console.errFd(), mode, policy->getProgressMax());
     Policy& running = *policy;
     policy->connect([&progress, &running](std::shared_ptr<std::string> name) {

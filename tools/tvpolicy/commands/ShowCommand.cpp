@@ -8,8 +8,8 @@
 
 #include <tvpolicy/agent/AgentConfigXML.h>
 #include <tvpolicy/agent/AgentSchema.h>
-#include <tvpolicy/agent/DocumentCheck.h>
 #include <tvpolicy/agent/AgentStatusXML.h>
+#include <tvpolicy/agent/DocumentCheck.h>
 #include <tvpolicy/agent/LoginField.h>
 #include <tvpolicy/agent/WifiConfigurationProfile.h>
 
@@ -35,7 +35,8 @@ std::string wordOf(Value value, const std::map<Value, const char*>& words)
 
 std::string typeWord(LoginField::Type type)
 {
-    return wordOf(type, {{LoginField::TEXT, "TEXT"}, {LoginField::PASSWORD, "PASSWORD"}, {LoginField::SELECT, "SELECT"}});
+    return wordOf(type,
+                  {{LoginField::TEXT, "TEXT"}, {LoginField::PASSWORD, "PASSWORD"}, {LoginField::SELECT, "SELECT"}});
 }
 
 Json fieldJson(const LoginField& field)
@@ -44,7 +45,9 @@ Json fieldJson(const LoginField& field)
     for (const auto& option : field.getOptions()) {
         options.push_back({{"name", option.name}, {"value", option.value}});
     }
-    return {{"name", field.getName()}, {"label", field.getLabel()}, {"type", typeWord(field.getType())},
+    return {{"name", field.getName()},
+            {"label", field.getLabel()},
+            {"type", typeWord(field.getType())},
             {"options", options}};
 }
 
@@ -54,12 +57,24 @@ Json configJson(const AgentConfigXML& c)
     for (const auto& field : c.fieldList) {
         fields.push_back(fieldJson(*field));
     }
-    return {{"loginUrl", c.loginUrl}, {"message", c.message}, {"submitText", c.submitText},
-            {"loginRequired", c.loginRequired}, {"scanUrl", c.scanUrl}, {"uid", c.uid},
-            {"showPassedTests", c.showPassedTests}, {"showIntro", c.showIntro}, {"showFinished", c.showFinished},
-            {"rescanText", c.rescanText}, {"cancelText", c.cancelText}, {"finishText", c.finishText},
-            {"resultsText", c.resultsText}, {"successText", c.successText}, {"showSuccess", c.showSuccess},
-            {"sjLoginTitle", c.sjLoginTitle}, {"sjLoginMessage", c.sjLoginMessage}, {"connTestURL", c.connTestURL},
+    return {{"loginUrl", c.loginUrl},
+            {"message", c.message},
+            {"submitText", c.submitText},
+            {"loginRequired", c.loginRequired},
+            {"scanUrl", c.scanUrl},
+            {"uid", c.uid},
+            {"showPassedTests", c.showPassedTests},
+            {"showIntro", c.showIntro},
+            {"showFinished", c.showFinished},
+            {"rescanText", c.rescanText},
+            {"cancelText", c.cancelText},
+            {"finishText", c.finishText},
+            {"resultsText", c.resultsText},
+            {"successText", c.successText},
+            {"showSuccess", c.showSuccess},
+            {"sjLoginTitle", c.sjLoginTitle},
+            {"sjLoginMessage", c.sjLoginMessage},
+            {"connTestURL", c.connTestURL},
             {"fields", fields}};
 }
 
@@ -70,25 +85,39 @@ Json profileJson(const WifiConfigurationProfile& p, bool reveal)
     if (!reveal && !password.empty()) {
         password = "(hidden; --reveal shows it)";
     }
-    return {{"name", p.getName()}, {"SSID", p.getSSID()},
-            {"securityType", wordOf(p.getSecurity(), {{W::OPEN, "OPEN"}, {W::WEP, "WEP"},
-                {W::WEP_ENTERPRISE, "WEP_ENTERPRISE"}, {W::WPA, "WPA"}, {W::WPA_ENTERPRISE, "WPA_ENTERPRISE"},
-                {W::WPA2, "WPA2"}, {W::WPA2_ENTERPRISE, "WPA2_ENTERPRISE"}})},
-            {"EAPConfig", wordOf(p.getEapType(), {{W::TLS, "TLS"}, {W::LEAP, "LEAP"}, {W::TTLS, "TTLS"},
-                {W::PEAP, "PEAP"}, {W::EAP_SIM, "EAP_SIM"}})},
-            {"configCipher", wordOf(p.getCipher(), {{W::AES, "AES"}, {W::TKIP, "TKIP"}, {W::OTHER_CIPHER, "other"}})},
-            {"password", password}, {"CAFingerprint", p.getCAFingerprint()},
-            {"validateServerCert", p.getValidateServerCert()}};
+    return {
+        {"name", p.getName()},
+        {"SSID", p.getSSID()},
+        {"securityType", wordOf(p.getSecurity(), {{W::OPEN, "OPEN"},
+                                                  {W::WEP, "WEP"},
+                                                  {W::WEP_ENTERPRISE, "WEP_ENTERPRISE"},
+                                                  {W::WPA, "WPA"},
+                                                  {W::WPA_ENTERPRISE, "WPA_ENTERPRISE"},
+                                                  {W::WPA2, "WPA2"},
+                                                  {W::WPA2_ENTERPRISE, "WPA2_ENTERPRISE"}})},
+        {"EAPConfig",
+         wordOf(p.getEapType(),
+                {{W::TLS, "TLS"}, {W::LEAP, "LEAP"}, {W::TTLS, "TTLS"}, {W::PEAP, "PEAP"}, {W::EAP_SIM, "EAP_SIM"}})},
+        {"configCipher", wordOf(p.getCipher(), {{W::AES, "AES"}, {W::TKIP, "TKIP"}, {W::OTHER_CIPHER, "other"}})},
+        {"password", password},
+        {"CAFingerprint", p.getCAFingerprint()},
+        {"validateServerCert", p.getValidateServerCert()}};
 }
 
 Json statusJson(const AgentStatusXML& s, bool reveal)
 {
     std::string word = wordOf(s.getStatus(), {{AgentStatusXML::SUCCESS, "SUCCESS"},
-        {AgentStatusXML::AUTH_FAILURE, "AUTH_FAILURE"}, {AgentStatusXML::SCAN_FAILURE, "SCAN_FAILURE"},
-        {AgentStatusXML::ERROR, "ERROR"}, {AgentStatusXML::NEEDS_SCAN, "NEEDS_SCAN"},
-        {AgentStatusXML::SCAN_SUCCESS, "SCAN_SUCCESS"}, {AgentStatusXML::NEEDS_SWIFTJOIN, "NEEDS_SWIFTJOIN"}});
+                                              {AgentStatusXML::AUTH_FAILURE, "AUTH_FAILURE"},
+                                              {AgentStatusXML::SCAN_FAILURE, "SCAN_FAILURE"},
+                                              {AgentStatusXML::ERROR, "ERROR"},
+                                              {AgentStatusXML::NEEDS_SCAN, "NEEDS_SCAN"},
+                                              {AgentStatusXML::SCAN_SUCCESS, "SCAN_SUCCESS"},
+                                              {AgentStatusXML::NEEDS_SWIFTJOIN, "NEEDS_SWIFTJOIN"}});
     auto profile = s.getWifiProfile();
-    return {{"status", word}, {"message", s.getMessage()}, {"scanName", s.getScanName()}, {"uid", s.getUid()},
+    return {{"status", word},
+            {"message", s.getMessage()},
+            {"scanName", s.getScanName()},
+            {"uid", s.getUid()},
             {"profile", profile ? profileJson(*profile, reveal) : Json(nullptr)}};
 }
 
@@ -118,7 +147,8 @@ CommandAction setupShow(CLI::App& app)
     };
     auto options = std::make_shared<Options>();
     app.add_option("KIND", options->kind, "config, status or profile")
-        ->required()->check(CLI::IsMember({"config", "status", "profile"}));
+        ->required()
+        ->check(CLI::IsMember({"config", "status", "profile"}));
     app.add_option("FILE", options->file, "The document, as the server sends it, or - for standard input")->required();
     app.add_flag("--json", options->json, "Print one JSON object instead of one line per value");
     app.add_flag("--reveal", options->reveal, "Show Wi-Fi pass phrases instead of hiding them");
@@ -159,9 +189,9 @@ CommandAction setupShow(CLI::App& app)
     };
 }
 
-const bool registered = registerCommand(
-    {"show", "Print what the agent reads from a configuration, status reply or Wi-Fi profile document", 40,
-     &setupShow});
+const bool registered =
+    registerCommand({"show", "Print what the agent reads from a configuration, status reply or Wi-Fi profile document",
+                     40, &setupShow});
 
 }  // namespace
 }  // namespace tvpolicy::cli

@@ -30,7 +30,8 @@ std::vector<Kind> registeredKinds()
     for (std::size_t i = 0; i < map.size(); ++i) {
         const std::string& name = map.entry(i).name;
         const std::string suffix = "Task";
-        bool suffixed = name.size() > suffix.size() && name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0;
+        bool suffixed =
+            name.size() > suffix.size() && name.compare(name.size() - suffix.size(), suffix.size(), suffix) == 0;
         const std::vector<std::string>* attributes = tvpolicy::TaskCatalog::attributesOf(name);
         kinds.push_back({suffixed ? name.substr(0, name.size() - suffix.size()) : name, name,
                          attributes != nullptr ? *attributes : std::vector<std::string>{}});
@@ -70,9 +71,9 @@ CommandAction setupTasks(CLI::App& app)
     };
 }
 
-const bool registered = registerCommand(
-    {"tasks", "List the check elements a policy can use, in registration order, with their attributes", 90,
-     &setupTasks});
+const bool registered =
+    registerCommand({"tasks", "List the check elements a policy can use, in registration order, with their attributes",
+                     90, &setupTasks});
 
 }  // namespace
 }  // namespace tvpolicy::cli

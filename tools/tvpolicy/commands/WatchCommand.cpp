@@ -42,16 +42,11 @@ std::string utcNow()
 const char* powerName(int state)
 {
     switch (state) {
-    case tvi::IdleSleepRequested:
-        return "IdleSleepRequested";
-    case tvi::SleepRequested:
-        return "SleepRequested";
-    case tvi::PoweringOn:
-        return "PoweringOn";
-    case tvi::PoweredOn:
-        return "PoweredOn";
-    default:
-        return "Unknown";
+    case tvi::IdleSleepRequested: return "IdleSleepRequested";
+    case tvi::SleepRequested: return "SleepRequested";
+    case tvi::PoweringOn: return "PoweringOn";
+    case tvi::PoweredOn: return "PoweredOn";
+    default: return "Unknown";
     }
 }
 
@@ -146,16 +141,19 @@ int watchChanges(const Options& options, Console& console)
 
     if (all || options.ip) {
         ip.connect([&printer](std::shared_ptr<std::vector<std::string>> list) { printer.addresses("ip", *list); });
-        addWatch(watches, "address", [&ip] { ip.run(); }, [&ip] { ip.stop(); });
+        addWatch(
+            watches, "address", [&ip] { ip.run(); }, [&ip] { ip.stop(); });
     }
     if (all || options.mac) {
         mac.connect([&printer](std::shared_ptr<std::vector<std::string>> list) { printer.addresses("mac", *list); });
-        addWatch(watches, "hardware address", [&mac] { mac.run(); }, [&mac] { mac.stop(); });
+        addWatch(
+            watches, "hardware address", [&mac] { mac.run(); }, [&mac] { mac.stop(); });
     }
     if (all || options.power) {
         if (power.enable()) {
             power.connect([&printer](std::shared_ptr<tvi::PowerChangeState> state) { printer.power(*state); });
-            addWatch(watches, "power", [&power] { power.runStandalone(); }, [&power] { power.stop(); });
+            addWatch(
+                watches, "power", [&power] { power.runStandalone(); }, [&power] { power.stop(); });
         } else {
             console.err() << "tvpolicy watch: power events cannot be watched: systemd-logind cannot be reached\n"
                           << std::flush;
@@ -194,7 +192,8 @@ int watchChanges(const Options& options, Console& console)
                 ++running;
             } else if (!reported[i]) {
                 reported[i] = true;
-                console.err() << "tvpolicy watch: the " << watches[i]->what << " watch ended: its events cannot be read\n"
+                console.err() << "tvpolicy watch: the " << watches[i]->what
+                              << " watch ended: its events cannot be read\n"
                               << std::flush;
             }
         }

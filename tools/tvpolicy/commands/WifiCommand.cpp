@@ -26,7 +26,8 @@ int status(Console& console, bool json)
     std::string ssid = wifi ? manager.getCurrentProfileNameUtf8() : std::string();
     std::string bssid = wifi ? manager.getCurrentBSSID() : std::string();
     if (json) {
-        console.out() << Json{{"interface", wifi ? Json(wifi->interfaceName) : Json(nullptr)}, {"ssid", ssid},
+        console.out() << Json{{"interface", wifi ? Json(wifi->interfaceName) : Json(nullptr)},
+                              {"ssid", ssid},
                               {"bssid", bssid}}
                              .dump(2, ' ', false, Json::error_handler_t::replace)
                       << '\n';
@@ -46,7 +47,8 @@ int join(Console& console, const std::string& file)
     if (!text) {
         return exitUsage;
     }
-    std::shared_ptr<com::torvane::WifiConfigurationProfile> profile = com::torvane::WifiConfigurationProfile::parse(*text);
+    std::shared_ptr<com::torvane::WifiConfigurationProfile> profile =
+        com::torvane::WifiConfigurationProfile::parse(*text);
     if (!profile || profile->getSSID().empty()) {
         console.err() << "tvpolicy wifi join: " << file << " holds no profile with an SSID\n";
         return exitUsage;

@@ -1,11 +1,11 @@
 #include "io/Console.h"
 
+#include <fcntl.h>
+#include <unistd.h>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fcntl.h>
 #include <iostream>
-#include <unistd.h>
 
 namespace tvpolicy::cli {
 
@@ -92,8 +92,7 @@ bool Console::logLibraryOutputTo(const std::string& path, std::string& error)
     return true;
 }
 
-Console::LibraryStdout::LibraryStdout(Console& console)
-    : console_(console), savedBuffer_(std::cout.rdbuf())
+Console::LibraryStdout::LibraryStdout(Console& console) : console_(console), savedBuffer_(std::cout.rdbuf())
 {
     console_.out_.flush();
     std::cout.flush();

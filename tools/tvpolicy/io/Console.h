@@ -4,8 +4,8 @@
 #include <ostream>
 #include <string>
 
-#include "io/FdStreamBuf.h"
 #include <tvpolicy/base/OwnedFd.h>
+#include "io/FdStreamBuf.h"
 
 namespace tvpolicy::cli {
 

@@ -1,7 +1,7 @@
 #include "io/FdStreamBuf.h"
 
-#include <cerrno>
 #include <unistd.h>
+#include <cerrno>
 
 namespace tvpolicy::cli {
 

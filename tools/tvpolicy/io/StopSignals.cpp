@@ -1,10 +1,10 @@
 #include "io/StopSignals.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
-#include <stdexcept>
 #include <unistd.h>
+#include <cerrno>
+#include <stdexcept>
 
 namespace tvpolicy::cli {
 
@@ -44,8 +44,8 @@ long millisecondsUntil(const std::timespec& deadline)
     if (deadline.tv_sec - now.tv_sec >= longestWait / 1000) {
         return longestWait;
     }
-    long long nanos = static_cast<long long>(deadline.tv_sec - now.tv_sec) * 1000000000LL +
-                      (deadline.tv_nsec - now.tv_nsec);
+    long long nanos =
+        static_cast<long long>(deadline.tv_sec - now.tv_sec) * 1000000000LL + (deadline.tv_nsec - now.tv_nsec);
     return nanos <= 0 ? 0 : static_cast<long>((nanos + 999999) / 1000000);
 }
 
@@ -91,7 +91,9 @@ bool StopSignals::waitUntil(const std::timespec& deadline)
         if (wait == 0) {
             return false;
         }
-        struct pollfd wake {readEnd_.get(), POLLIN, 0};
+        struct pollfd wake {
+            readEnd_.get(), POLLIN, 0
+        };
         int ready = ::poll(&wake, 1, static_cast<int>(wait));
         if (ready > 0) {
             char drain[16];

@@ -3,7 +3,10 @@
 namespace tvpolicy::cli {
 
 TeeStreamBuf::TeeStreamBuf(std::ostream& stream, std::string& copy, bool enabled)
-    : stream_(stream), copy_(copy), original_(stream.rdbuf()), enabled_(enabled)
+    : stream_(stream),
+      copy_(copy),
+      original_(stream.rdbuf()),
+      enabled_(enabled)
 {
     if (enabled_) {
         stream_.rdbuf(this);

@@ -12,8 +12,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "io/StopSignals.h"
 #include <tvpolicy/base/OwnedFd.h>
+#include "io/StopSignals.h"
 
 extern char** environ;
 
@@ -85,7 +85,8 @@ std::string secondsText(std::chrono::milliseconds duration)
 }  // namespace
 
 BoundedCommandHost::BoundedCommandHost(tvpolicy::HostProbe& inner, std::chrono::milliseconds timeout)
-    : inner_(inner), timeout_(timeout)
+    : inner_(inner),
+      timeout_(timeout)
 {
 }
 

@@ -1,13 +1,13 @@
 #include "policy/DescribedHost.h"
 
-#include <filesystem>
-#include <fstream>
-#include <set>
-#include <optional>
-#include <stdexcept>
-#include <vector>
 #include <stdlib.h>
 #include <unistd.h>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <set>
+#include <stdexcept>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -34,7 +34,8 @@ void onlyFields(const Json& object, const std::string& where, const std::set<std
             for (const std::string& field : known) {
                 list += (list.empty() ? "" : ", ") + field;
             }
-            throw FieldError("unknown field '" + (where.empty() ? name : where + "." + name) + "' (known: " + list + ")");
+            throw FieldError("unknown field '" + (where.empty() ? name : where + "." + name) + "' (known: " + list +
+                             ")");
         }
     }
 }
@@ -100,7 +101,8 @@ void describePosture(const Json& document, tvpolicy::DescribedHostProbe& host, t
                 throw FieldError("field '" + where + ".name' must be a package name");
             }
             std::string version = text(packages[i], "version", where + ".");
-            host.applications.text += "Package: " + name + "\nStatus: install ok installed\nVersion: " + version + "\n\n";
+            host.applications.text +=
+                "Package: " + name + "\nStatus: install ok installed\nVersion: " + version + "\n\n";
         }
     }
     if (document.contains("services")) {
@@ -126,7 +128,8 @@ void describePosture(const Json& document, tvpolicy::DescribedHostProbe& host, t
             if (!port.is_number_integer() || port.get<long>() < 1 || port.get<long>() > 65535) {
                 throw FieldError("field '" + where + ".port' must be a number from 1 to 65535");
             }
-            std::string protocol = listening[i].contains("protocol") ? text(listening[i], "protocol", where + ".") : "tcp";
+            std::string protocol =
+                listening[i].contains("protocol") ? text(listening[i], "protocol", where + ".") : "tcp";
             if (protocol != "tcp" && protocol != "udp") {
                 throw FieldError("field '" + where + ".protocol' must be tcp or udp");
             }
@@ -194,9 +197,10 @@ std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std:
     tvpolicy::DescribedHostProbe& host = described->host_;
     try {
         Json document = Json::parse(in);
-        onlyFields(document, "", {"os", "hostName", "architecture", "hardware", "processes", "commands", "root",
-                                  "dnsFlushCommand", "packages", "services", "listening", "firewall",
-                                  "encryptedMounts", "kernelParameters", "fileModes"});
+        onlyFields(
+            document, "",
+            {"os", "hostName", "architecture", "hardware", "processes", "commands", "root", "dnsFlushCommand",
+             "packages", "services", "listening", "firewall", "encryptedMounts", "kernelParameters", "fileModes"});
         if (!document.contains("os")) {
             throw FieldError("field 'os' is missing (it gives the OS name and version)");
         }
@@ -209,10 +213,10 @@ std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std:
         if (document.contains("hardware")) {
             const Json& hardware = document["hardware"];
             onlyFields(hardware, "hardware", {"manufacturer", "productName", "version", "uuid", "serialNumber"});
-            host.hardware = {optionalText(hardware, "manufacturer", "hardware."),
-                             optionalText(hardware, "productName", "hardware."),
-                             optionalText(hardware, "version", "hardware."), optionalText(hardware, "uuid", "hardware."),
-                             optionalText(hardware, "serialNumber", "hardware.")};
+            host.hardware = {
+                optionalText(hardware, "manufacturer", "hardware."), optionalText(hardware, "productName", "hardware."),
+                optionalText(hardware, "version", "hardware."), optionalText(hardware, "uuid", "hardware."),
+                optionalText(hardware, "serialNumber", "hardware.")};
         }
         if (document.contains("processes")) {
             if (!document["processes"].is_array()) {

@@ -1,11 +1,11 @@
 #include "policy/DocumentFile.h"
 
-#include <cerrno>
-#include <cstring>
-#include <utility>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <cerrno>
+#include <cstring>
+#include <utility>
 
 #include <tvpolicy/base/OwnedFd.h>
 
@@ -18,15 +18,12 @@ bool readAll(int fd, std::size_t maxBytes, std::string& text, std::string& why)
 {
     std::string content;
     switch (readBounded(fd, maxBytes, content)) {
-    case ReadEnd::Complete:
-        text = std::move(content);
-        return true;
+    case ReadEnd::Complete: text = std::move(content); return true;
     case ReadEnd::OverLimit:
         why = "larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)";
         return false;
     case ReadEnd::WouldBlock:
-    case ReadEnd::Failed:
-        break;
+    case ReadEnd::Failed: break;
     }
     why = std::strerror(errno);
     return false;
@@ -88,7 +85,8 @@ std::string problemOf(const tvpolicy::DocumentCheck& check, const std::string& t
     }
     std::string problem = "not XML: " + (check.problem.empty() ? std::string("no element") : check.problem);
     if (check.location.line > 0) {
-        problem += " at line " + std::to_string(check.location.line) + ", column " + std::to_string(check.location.column);
+        problem +=
+            " at line " + std::to_string(check.location.line) + ", column " + std::to_string(check.location.column);
     }
     return problem;
 }

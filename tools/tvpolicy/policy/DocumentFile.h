@@ -18,7 +18,7 @@ struct DocumentRead {
     bool ok = false;
     bool directory = false;  // the path names a folder
     std::string text;
-    std::string error;       // "cannot read PATH: why"
+    std::string error;  // "cannot read PATH: why"
 };
 
 /// Reads the file at `path` (standard input for "-") up to `maxBytes`.

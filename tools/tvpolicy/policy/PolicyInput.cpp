@@ -96,8 +96,8 @@ std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& 
         return nullptr;
     }
     if (policy->getRootElement() != "policy") {
-        error = name + " is not a policy: its root element is <" + policy->getRootElement() +
-                ">, a policy's is <policy>";
+        error =
+            name + " is not a policy: its root element is <" + policy->getRootElement() + ">, a policy's is <policy>";
         return nullptr;
     }
     return policy;

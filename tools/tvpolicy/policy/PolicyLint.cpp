@@ -46,14 +46,17 @@ std::string versionProblem(std::string text, std::string delimiters)
         return "is empty (compared as 0)";
     }
     if (delimiters.empty()) {
-        return allDigits(text) ? "" : "holds more than digits but the check has no delim: it is compared as the single number " +
-                                          std::to_string(std::strtoll(text.c_str(), nullptr, 10));
+        return allDigits(text)
+                   ? ""
+                   : "holds more than digits but the check has no delim: it is compared as the single number " +
+                         std::to_string(std::strtoll(text.c_str(), nullptr, 10));
     }
     std::vector<std::string> words;
     split(text, delimiters, words);
     for (const std::string& word : words) {
         if (!allDigits(word)) {
-            return "has the word '" + word + "', compared as " + std::to_string(std::strtoll(word.c_str(), nullptr, 10));
+            return "has the word '" + word + "', compared as " +
+                   std::to_string(std::strtoll(word.c_str(), nullptr, 10));
         }
     }
     return words.empty() ? "has no word between the delimiters (compared as 0)" : "";
@@ -187,8 +190,7 @@ bool asksToSkip(Section& section, Task& task)
         attribute(*source, "skip", present);
     }
     std::vector<Task*> terms = termsOf(task);
-    return present ||
-           std::any_of(terms.begin(), terms.end(), [&](Task* term) { return asksToSkip(section, *term); });
+    return present || std::any_of(terms.begin(), terms.end(), [&](Task* term) { return asksToSkip(section, *term); });
 }
 
 // Top-level sections evaluated on their own count against the policy whenever they do not
@@ -204,19 +206,22 @@ void standAlone(const std::map<std::string, Section*>& scope, std::vector<Notice
         std::uint64_t line = section->getLocation().line;
         if (section->isProhibited()) {
             out.push_back({"stand-alone-prohibited", true, line, name,
-                           "section \"" + name + "\" is prohibited and stands alone: it fails the policy whatever "
-                           "its checks find (a prohibited section decides only within a group or an option)"});
+                           "section \"" + name +
+                               "\" is prohibited and stands alone: it fails the policy whatever "
+                               "its checks find (a prohibited section decides only within a group or an option)"});
         }
         if (section->isWarning()) {
             out.push_back({"stand-alone-warning", true, line, name,
-                           "section \"" + name + "\" has severity=\"warning\" but stands alone: when it does not "
-                           "pass, it still fails the policy"});
+                           "section \"" + name +
+                               "\" has severity=\"warning\" but stands alone: when it does not "
+                               "pass, it still fails the policy"});
         }
         const auto& tasks = section->getTasks();
         if (std::any_of(tasks.begin(), tasks.end(), [&](Task* task) { return asksToSkip(*section, *task); })) {
             out.push_back({"stand-alone-skip", true, line, name,
-                           "section \"" + name + "\" has an <and skip=\"true\"> but stands alone: a skipped "
-                           "stand-alone section fails the policy"});
+                           "section \"" + name +
+                               "\" has an <and skip=\"true\"> but stands alone: a skipped "
+                               "stand-alone section fails the policy"});
         }
     }
 }
@@ -263,11 +268,13 @@ std::vector<Notice> lintFindings(Policy& policy, const std::string& text)
         }
     }
     if (policy.getSectionCount() > 999) {
-        findings.push_back({"too-many-sections", true, 0, "",
-                            "the policy has " + std::to_string(policy.getSectionCount()) +
-                                " sections: past 999 their keys sort out of document order, and so does their evaluation"});
+        findings.push_back(
+            {"too-many-sections", true, 0, "",
+             "the policy has " + std::to_string(policy.getSectionCount()) +
+                 " sections: past 999 their keys sort out of document order, and so does their evaluation"});
     }
-    std::stable_sort(findings.begin(), findings.end(), [](const Notice& a, const Notice& b) { return a.line < b.line; });
+    std::stable_sort(findings.begin(), findings.end(),
+                     [](const Notice& a, const Notice& b) { return a.line < b.line; });
     return findings;
 }
 

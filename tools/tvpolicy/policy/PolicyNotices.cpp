@@ -67,9 +67,8 @@ std::vector<Notice> documentNotices(Policy& policy, const std::string& text)
         notices.insert(notices.end(), own.begin(), own.end());
     });
     // Document order; what has no line (the whole policy) last.
-    std::stable_sort(notices.begin(), notices.end(), [](const Notice& a, const Notice& b) {
-        return a.line != 0 && (b.line == 0 || a.line < b.line);
-    });
+    std::stable_sort(notices.begin(), notices.end(),
+                     [](const Notice& a, const Notice& b) { return a.line != 0 && (b.line == 0 || a.line < b.line); });
     if (sections == 0) {
         notices.push_back({"no-sections", true, 0, "", "the policy holds no section: nothing was checked"});
     }

@@ -27,9 +27,10 @@ using namespace xercesc;
 // addresses (results, success, ...), which are passed over whole here.
 const std::vector<std::string>& topLevelNames()
 {
-    static const std::vector<std::string> names{
-        "section", "option",   "include", "auditOnly", "registerFailedRogue", "results", "success", "failure",
-        "init",    "progress", "supplicant", "url",    "ip",                  "primaryIP", "debug",  "renewip"};
+    static const std::vector<std::string> names{"section",    "option",  "include", "auditOnly", "registerFailedRogue",
+                                                "results",    "success", "failure", "init",      "progress",
+                                                "supplicant", "url",     "ip",      "primaryIP", "debug",
+                                                "renewip"};
     return names;
 }
 
@@ -176,8 +177,9 @@ public:
             for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
                 std::string name = narrow(attributes.getQName(i));
                 if (name != "id" && name != "period" && name != "prohibit") {
-                    add(line, "unknown-attribute", "attribute '" + name + "' of <Monitor> " + monitor +
-                                  " is not one that a monitor reads (id, period, prohibit): it changes nothing");
+                    add(line, "unknown-attribute",
+                        "attribute '" + name + "' of <Monitor> " + monitor +
+                            " is not one that a monitor reads (id, period, prohibit): it changes nothing");
                 }
             }
             if (prohibit) {
@@ -194,15 +196,17 @@ public:
         std::string kind = element + "Task";
         if (TaskFactory::getMap().get(kind) == nullptr) {
             skipFrom = depth;
-            add(line, "unknown-element", "<" + element + "> in monitor " + monitor +
-                          " names no check kind: it was passed over, not evaluated (see tvpolicy tasks)");
+            add(line, "unknown-element",
+                "<" + element + "> in monitor " + monitor +
+                    " names no check kind: it was passed over, not evaluated (see tvpolicy tasks)");
             return;
         }
         for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
             std::string name = narrow(attributes.getQName(i));
             if (!tvpolicy::TaskCatalog::reads(kind, name)) {
-                add(line, "unknown-attribute", "attribute '" + name + "' of <" + element + "> in monitor " + monitor + " is not one that " +
-                              element + " reads: it changes nothing (see tvpolicy tasks)");
+                add(line, "unknown-attribute",
+                    "attribute '" + name + "' of <" + element + "> in monitor " + monitor + " is not one that " +
+                        element + " reads: it changes nothing (see tvpolicy tasks)");
             }
         }
         if (element != "and" && element != "or" && element != "not") {

@@ -110,8 +110,8 @@ std::string termsHtml(const Json& task)
         }
     }
     std::size_t count = task["terms"].size();
-    return "<details><summary>" + std::to_string(count) + (count == 1 ? " term: " : " terms: ") + summary + "</summary><ul>" + items +
-           "</ul></details>";
+    return "<details><summary>" + std::to_string(count) + (count == 1 ? " term: " : " terms: ") + summary +
+           "</summary><ul>" + items + "</ul></details>";
 }
 
 bool webLink(const std::string& url)
@@ -150,7 +150,9 @@ void itemHtml(const Json& item, std::ostream& html)
     } else if (!item["tasks"].empty()) {
         html << "<table><thead><tr><th>Check</th><th>Outcome</th><th>Message</th></tr></thead><tbody>";
         for (const Json& task : item["tasks"]) {
-            std::string outcome = task["passed"].is_null() ? "not run" : task["passed"].get<bool>() ? "passed" : "failed";
+            std::string outcome = task["passed"].is_null()     ? "not run"
+                                  : task["passed"].get<bool>() ? "passed"
+                                                               : "failed";
             std::string message = task["message"].get<std::string>();
             if (task.contains("cause")) {
                 message += " (" + task["cause"].get<std::string>() + ")";
@@ -207,7 +209,9 @@ void factsHtml(const Json& report, std::ostream& html)
 void switchesHtml(const Json& switches, std::ostream& html)
 {
     html << "<section><h2>Policy switches</h2><dl class=\"facts\">";
-    auto flag = [&](const char* label, bool on) { html << "<dt>" << label << "</dt><dd>" << (on ? "yes" : "no") << "</dd>"; };
+    auto flag = [&](const char* label, bool on) {
+        html << "<dt>" << label << "</dt><dd>" << (on ? "yes" : "no") << "</dd>";
+    };
     flag("Audit only", switches["auditOnly"].get<bool>());
     flag("Register failed rogue", switches["registerFailedRogue"].get<bool>());
     flag("Renew IP", switches["renewIP"].get<bool>());
@@ -239,7 +243,8 @@ std::string htmlReport(const Json& report)
          << "<title>" << escapeHtml("Policy \"" + policy + "\": " + result) << "</title><style>" << style
          << "</style></head><body>\n";
     html << "<header class=\"verdict " << (passed ? "pass" : "fail") << "\"><h1>Policy &ldquo;" << escapeHtml(policy)
-         << "&rdquo;</h1><div class=\"word\" id=\"verdict\">" << (passed ? "&#10004; PASS" : "&#10008; FAIL") << "</div>";
+         << "&rdquo;</h1><div class=\"word\" id=\"verdict\">" << (passed ? "&#10004; PASS" : "&#10008; FAIL")
+         << "</div>";
     if (report["switches"]["auditOnly"].get<bool>()) {
         html << "<p>Audit only: the verdict is reported, not enforced.</p>";
     }

@@ -227,7 +227,7 @@ std::string junitReport(const Json& report, std::string& why)
             implementation->createLSSerializer(), [](DOMLSSerializer* s) { s->release(); });
         serializer->getDomConfig()->setParameter(XMLUni::fgDOMWRTFormatPrettyPrint, true);
         std::unique_ptr<DOMLSOutput, void (*)(DOMLSOutput*)> output(implementation->createLSOutput(),
-                                                                     [](DOMLSOutput* o) { o->release(); });
+                                                                    [](DOMLSOutput* o) { o->release(); });
         MemBufFormatTarget target;
         output->setByteStream(&target);
         output->setEncoding(Wide("UTF-8").get());

@@ -98,8 +98,8 @@ nlohmann::ordered_json MonitorRun::toJson() const
     for (const MonitorCheck& check : checks) {
         checkList.push_back({{"type", check.kind}, {"passed", check.passed}, {"message", check.message}});
     }
-    nlohmann::ordered_json line = {{"time", isoTime(when)}, {"id", id},           {"status", compliant},
-                                   {"prohibit", prohibit},  {"checks", checkList}};
+    nlohmann::ordered_json line = {
+        {"time", isoTime(when)}, {"id", id}, {"status", compliant}, {"prohibit", prohibit}, {"checks", checkList}};
     if (!compliant) {
         line["why"] = why();
     }

@@ -17,8 +17,8 @@
 #include <tvpolicy/policy/TaskSource.h>
 #include <tvpolicy/version.h>
 
-#include "policy/PolicyWalk.h"
 #include "io/TerminalText.h"
+#include "policy/PolicyWalk.h"
 
 namespace tvpolicy::cli {
 
@@ -242,14 +242,12 @@ std::string decidingRule(Section& section, const Json& item)
     }
     switch (section.getStatus()) {
     case 0:
-        return "section " + name + " stands alone and a check asked to skip it (skip=\"true\"): a skipped stand-alone " +
+        return "section " + name +
+               " stands alone and a check asked to skip it (skip=\"true\"): a skipped stand-alone " +
                "section counts as failed";
-    case 3:
-        return "section " + name + " is prohibited and its checks passed, so it counts as failed";
-    case 5:
-        return "section " + name + " has severity warning, but it did not pass, and that fails the policy" + found;
-    default:
-        return "section " + name + " failed" + (check.empty() ? std::string() : ": " + check);
+    case 3: return "section " + name + " is prohibited and its checks passed, so it counts as failed";
+    case 5: return "section " + name + " has severity warning, but it did not pass, and that fails the policy" + found;
+    default: return "section " + name + " failed" + (check.empty() ? std::string() : ": " + check);
     }
 }
 
@@ -332,7 +330,10 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
 {
     bool option = item["kind"] == "option";
     unsigned status = item["status"].get<unsigned>();
-    Tone tone = status == 1 ? Tone::pass : status == 5 ? Tone::warn : status == 2 || status == 3 ? Tone::fail : Tone::warn;
+    Tone tone = status == 1                  ? Tone::pass
+                : status == 5                ? Tone::warn
+                : status == 2 || status == 3 ? Tone::fail
+                                             : Tone::warn;
     bool skipped = status == 0 || status == 4;
     std::string words = item["statusText"].get<std::string>();
     if (item.contains("notEvaluatedBecause")) {
@@ -343,8 +344,8 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
     out << indent << (option ? "Option" : "Section") << " \"" << item["name"].get<std::string>()
         << "\": " << (skipped ? words : toned(words, tone, style.colour));
     if (!option && !item["group"].get<std::string>().empty()) {
-        out << "  (group " << item["group"].get<std::string>() << (item["primary"].get<bool>() ? ", primary" : ", secondary")
-            << ")";
+        out << "  (group " << item["group"].get<std::string>()
+            << (item["primary"].get<bool>() ? ", primary" : ", secondary") << ")";
     }
     if (item.contains("url")) {
         out << "  (included from " << item["url"].get<std::string>() << "; included sections are never evaluated)";
@@ -467,8 +468,8 @@ std::string comparedVersions(const Json& task)
     std::string operation = version["operation"].get<std::string>();
     std::string found = version["found"].get<std::string>();
     std::string required = version["required"].get<std::string>();
-    std::string text = "found \"" + found + "\", required " + (operation.empty() ? "gte" : operation) + " \"" +
-                       required + "\"";
+    std::string text =
+        "found \"" + found + "\", required " + (operation.empty() ? "gte" : operation) + " \"" + required + "\"";
     const Json attributes = task.value("attributes", Json::object());
     if (!attributes.contains("required")) {
         return text;  // the kinds that read no delimiter compare by rules of their own
@@ -494,8 +495,8 @@ Json reportPolicy(Policy& policy, bool passed, unsigned announced, const std::ve
     }
     Json warnings = Json::array();
     for (const Notice& notice : notices) {
-        warnings.push_back({{"kind", notice.kind}, {"line", notice.line}, {"section", notice.section},
-                            {"message", notice.message}});
+        warnings.push_back(
+            {{"kind", notice.kind}, {"line", notice.line}, {"section", notice.section}, {"message", notice.message}});
     }
     Json decidedBy = passed ? Json::array() : decidingItems(policy, items);
     for (const Json& decider : decidedBy) {
@@ -520,8 +521,8 @@ std::string verdictLine(const Json& report, const TextStyle& style)
 {
     const Json& counts = report["counts"];
     std::string result = report["result"].get<std::string>();
-    std::string line = "Policy \"" + report["policy"].get<std::string>() + "\": " +
-                       toned(result, result == "PASS" ? Tone::pass : Tone::fail, style.colour) + " (" +
+    std::string line = "Policy \"" + report["policy"].get<std::string>() +
+                       "\": " + toned(result, result == "PASS" ? Tone::pass : Tone::fail, style.colour) + " (" +
                        counts["passed"].dump() + " passed, " + counts["failed"].dump() + " failed, " +
                        counts["warning"].dump() + " warning, " + counts["skipped"].dump() + " skipped of " +
                        counts["sections"].dump() + " sections";

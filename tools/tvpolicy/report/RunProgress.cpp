@@ -1,9 +1,9 @@
 #include "report/RunProgress.h"
 
+#include <unistd.h>
 #include <algorithm>
 #include <atomic>
 #include <csignal>
-#include <unistd.h>
 
 #include "io/TerminalText.h"
 
@@ -28,7 +28,10 @@ extern "C" void eraseBarAndStop(int signal)
 }  // namespace
 
 RunProgress::RunProgress(std::ostream& err, int errFd, Mode mode, unsigned max)
-    : err_(err), errFd_(errFd), mode_(mode), max_(max)
+    : err_(err),
+      errFd_(errFd),
+      mode_(mode),
+      max_(max)
 {
     if (mode_ == Mode::bar) {
         barFd = errFd_;

@@ -13,13 +13,13 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <dns_sd.h>
 #include <SystemConfiguration/SCDynamicStore.h>
 #include <SystemConfiguration/SCDynamicStoreKey.h>
 #include <SystemConfiguration/SCSchemaDefinitions.h>
+#include <dns_sd.h>
 
-#include "host/parse/DnsMessage.h"
 #include <tvpolicy/base/OwnedFd.h>
+#include "host/parse/DnsMessage.h"
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {
@@ -49,9 +49,8 @@ private:
 
 using Socket = tvpolicy::OwnedFd;
 
-void DNSSD_API gather(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType error, const char*,
-                      uint16_t type, uint16_t recordClass, uint16_t length, const void* data, uint32_t ttl,
-                      void* context)
+void DNSSD_API gather(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType error, const char*, uint16_t type,
+                      uint16_t recordClass, uint16_t length, const void* data, uint32_t ttl, void* context)
 {
     if (error != kDNSServiceErr_NoError || data == nullptr) {
         return;
@@ -145,8 +144,8 @@ std::string DarwinHostProbe::dnsDefaultDomain() const
     if (!store) {
         return std::string();
     }
-    darwin::CFHolder<CFStringRef> key(SCDynamicStoreKeyCreateNetworkGlobalEntity(
-        kCFAllocatorDefault, kSCDynamicStoreDomainState, kSCEntNetDNS));
+    darwin::CFHolder<CFStringRef> key(
+        SCDynamicStoreKeyCreateNetworkGlobalEntity(kCFAllocatorDefault, kSCDynamicStoreDomainState, kSCEntNetDNS));
     darwin::CFHolder<CFPropertyListRef> value(SCDynamicStoreCopyValue(store.get(), key.get()));
     if (!value || CFGetTypeID(value.get()) != CFDictionaryGetTypeID()) {
         return std::string();

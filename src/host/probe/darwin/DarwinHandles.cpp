@@ -54,10 +54,9 @@ std::string utf8(CFTypeRef value)
 
 CFHolder<CFStringRef> cfString(const std::string& text)
 {
-    return CFHolder<CFStringRef>(CFStringCreateWithBytes(kCFAllocatorDefault,
-                                                         reinterpret_cast<const UInt8*>(text.data()),
-                                                         static_cast<CFIndex>(text.size()),
-                                                         kCFStringEncodingUTF8, false));
+    return CFHolder<CFStringRef>(
+        CFStringCreateWithBytes(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(text.data()),
+                                static_cast<CFIndex>(text.size()), kCFStringEncodingUTF8, false));
 }
 
 std::string registryText(CFTypeRef value)

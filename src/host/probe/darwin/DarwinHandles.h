@@ -122,7 +122,9 @@ private:
 class RunLoopSourceAttachment {
 public:
     RunLoopSourceAttachment(CFRunLoopRef loop, CFRunLoopSourceRef source, CFStringRef mode)
-        : loop_(loop), source_(source), mode_(mode)
+        : loop_(loop),
+          source_(source),
+          mode_(mode)
     {
         CFRunLoopAddSource(loop_, source_, mode_);
     }

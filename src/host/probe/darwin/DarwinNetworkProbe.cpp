@@ -29,9 +29,9 @@
 
 #include <tvpolicy/base/Utilities.h>
 
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/parse/MacHardware.h"
 #include "host/probe/InterfaceAddressList.h"
-#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/darwin/DarwinHandles.h"
 
 namespace tvpolicy {
@@ -79,8 +79,8 @@ std::vector<std::uint32_t> mediumTypes(CFDictionaryRef media)
         if (value == nullptr || CFGetTypeID(value) != CFDictionaryGetTypeID()) {
             continue;
         }
-        auto type = static_cast<CFNumberRef>(
-            CFDictionaryGetValue(static_cast<CFDictionaryRef>(value), CFSTR(kIOMediumType)));
+        auto type =
+            static_cast<CFNumberRef>(CFDictionaryGetValue(static_cast<CFDictionaryRef>(value), CFSTR(kIOMediumType)));
         SInt32 number = 0;
         if (type != nullptr && CFGetTypeID(type) == CFNumberGetTypeID() &&
             CFNumberGetValue(type, kCFNumberSInt32Type, &number)) {
@@ -101,8 +101,8 @@ NetworkProbe::Hardware GetMACAddress(io_iterator_t services)
             std::printf("IORegistryEntryGetParentEntry returned 0x%08x\n", result);
             continue;
         }
-        CFHolder<CFTypeRef> media(IORegistryEntryCreateCFProperty(controller.get(), CFSTR(kIOMediumDictionary),
-                                                                  kCFAllocatorDefault, 0));
+        CFHolder<CFTypeRef> media(
+            IORegistryEntryCreateCFProperty(controller.get(), CFSTR(kIOMediumDictionary), kCFAllocatorDefault, 0));
         if (!media || CFGetTypeID(media.get()) != CFDictionaryGetTypeID()) {
             hardware.medium = "Unknown";
         } else {
@@ -113,8 +113,7 @@ NetworkProbe::Hardware GetMACAddress(io_iterator_t services)
         if (address && CFGetTypeID(address.get()) == CFDataGetTypeID()) {
             auto data = static_cast<CFDataRef>(address.get());
             const UInt8* bytes = CFDataGetBytePtr(data);
-            hardware.macAddress =
-                parse::macFromBytes(std::vector<unsigned char>(bytes, bytes + CFDataGetLength(data)));
+            hardware.macAddress = parse::macFromBytes(std::vector<unsigned char>(bytes, bytes + CFDataGetLength(data)));
         }
     }
     return hardware;
@@ -122,8 +121,8 @@ NetworkProbe::Hardware GetMACAddress(io_iterator_t services)
 
 CFHolder<CFDictionaryRef> globalDNS(SCDynamicStoreRef store)
 {
-    CFHolder<CFStringRef> key(SCDynamicStoreKeyCreateNetworkGlobalEntity(kCFAllocatorDefault,
-                                                                         kSCDynamicStoreDomainState, kSCEntNetDNS));
+    CFHolder<CFStringRef> key(
+        SCDynamicStoreKeyCreateNetworkGlobalEntity(kCFAllocatorDefault, kSCDynamicStoreDomainState, kSCEntNetDNS));
     CFHolder<CFPropertyListRef> value(SCDynamicStoreCopyValue(store, key.get()));
     if (!value || CFGetTypeID(value.get()) != CFDictionaryGetTypeID()) {
         return CFHolder<CFDictionaryRef>();
@@ -138,9 +137,9 @@ bool refreshNamed(CFArrayRef items, const std::string& name, bool services)
     CFHolder<CFStringRef> wanted = darwin::cfString(name);
     for (CFIndex i = 0; items != nullptr && i < CFArrayGetCount(items); ++i) {
         const void* item = CFArrayGetValueAtIndex(items, i);
-        SCNetworkInterfaceRef interface =
-            services ? SCNetworkServiceGetInterface(static_cast<SCNetworkServiceRef>(item))
-                     : static_cast<SCNetworkInterfaceRef>(item);
+        SCNetworkInterfaceRef interface = services
+                                              ? SCNetworkServiceGetInterface(static_cast<SCNetworkServiceRef>(item))
+                                              : static_cast<SCNetworkInterfaceRef>(item);
         CFStringRef bsdName = interface != nullptr ? SCNetworkInterfaceGetBSDName(interface) : nullptr;
         if (bsdName != nullptr && wanted && CFStringCompare(bsdName, wanted.get(), 0) == kCFCompareEqualTo) {
             // The status line is the caller's (the interface inventory prints it).
@@ -253,9 +252,9 @@ bool DarwinNetworkProbe::renewAddressAuthorized(const std::string& name, const v
     if (authorization == nullptr) {
         return false;
     }
-    CFHolder<SCPreferencesRef> preferences(SCPreferencesCreateWithAuthorization(
-        kCFAllocatorDefault, CFSTR("DissolvableAgent"), nullptr,
-        static_cast<AuthorizationRef>(const_cast<void*>(authorization))));
+    CFHolder<SCPreferencesRef> preferences(
+        SCPreferencesCreateWithAuthorization(kCFAllocatorDefault, CFSTR("DissolvableAgent"), nullptr,
+                                             static_cast<AuthorizationRef>(const_cast<void*>(authorization))));
     if (!preferences) {
         return false;
     }

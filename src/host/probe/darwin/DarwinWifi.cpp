@@ -69,10 +69,7 @@ auto guarded(Operation&& operation, std::string* error) -> decltype(operation())
 // An autorelease pool for the length of one operation, drained when it ends.
 class AutoreleasePool {
 public:
-    AutoreleasePool()
-        : pool_(Send<id()>::call(Send<id()>::call(classNamed("NSAutoreleasePool"), "alloc"), "init"))
-    {
-    }
+    AutoreleasePool() : pool_(Send<id()>::call(Send<id()>::call(classNamed("NSAutoreleasePool"), "alloc"), "init")) {}
     ~AutoreleasePool() { Send<void()>::call(pool_, "drain"); }
     AutoreleasePool(const AutoreleasePool&) = delete;
     AutoreleasePool& operator=(const AutoreleasePool&) = delete;
@@ -176,8 +173,8 @@ void DarwinNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::st
                 reinterpret_cast<id>(Send<Class(id)>::call(bundle.get(), "classNamed:", nsString("CWInterface")));
             id interface = Send<id()>::call(interfaceClass, "interface");
             // The scanned network object of this BSSID: the scan is repeated for the association.
-            id found = Send<id(id, id*)>::call(interface, "scanForNetworksWithName:error:", nsString(network.ssid),
-                                               nullptr);
+            id found =
+                Send<id(id, id*)>::call(interface, "scanForNetworksWithName:error:", nsString(network.ssid), nullptr);
             id all = Send<id()>::call(found, "allObjects");
             id target = nullptr;
             for (unsigned long i = 0, n = Send<unsigned long()>::call(all, "count"); i < n; ++i) {
@@ -192,9 +189,9 @@ void DarwinNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::st
             }
             id associationError = nullptr;
             if (enterprise) {
-                Send<BOOL(id, id, id, id, id*)>::call(interface,
-                                                      "associateToEnterpriseNetwork:identity:username:password:error:",
-                                                      target, nullptr, nullptr, nullptr, &associationError);
+                Send<BOOL(id, id, id, id, id*)>::call(
+                    interface, "associateToEnterpriseNetwork:identity:username:password:error:", target, nullptr,
+                    nullptr, nullptr, &associationError);
             } else {
                 Send<BOOL(id, id, id*)>::call(interface, "associateToNetwork:password:error:", target,
                                               password.empty() ? nullptr : nsString(password), &associationError);
@@ -218,8 +215,8 @@ std::vector<NetworkProbe::WifiSettings> DarwinNetworkProbe::wifiStoredProfiles()
                 id profile = Send<id(unsigned long)>::call(remembered, "objectAtIndex:", i);
                 WifiSettings settings;
                 settings.ssid = text(Send<id()>::call(profile, "ssid"));
-                settings.securityMode = static_cast<int>(
-                    Send<long()>::call(Send<id()>::call(profile, "securityMode"), "longValue"));
+                settings.securityMode =
+                    static_cast<int>(Send<long()>::call(Send<id()>::call(profile, "securityMode"), "longValue"));
                 settings.passphrase = text(Send<id()>::call(profile, "passphrase"));
                 id user8021X = Send<id()>::call(profile, "user8021XProfile");
                 settings.name8021X = text(Send<id()>::call(user8021X, "userDefinedName"));
@@ -274,9 +271,9 @@ bool DarwinNetworkProbe::wifiStoreProfile(const WifiSettings& settings, std::str
                 kAuthorizationFlagInteractionAllowed | kAuthorizationFlagExtendRights | kAuthorizationFlagPreAuthorize,
                 &authorizationError);
             id commitError = nullptr;
-            BOOL committed =
-                Send<BOOL(id, id, id*)>::call(currentInterface(), "commitConfiguration:authorization:error:",
-                                              configuration, authorization, &commitError);
+            BOOL committed = Send<BOOL(id, id, id*)>::call(currentInterface(),
+                                                           "commitConfiguration:authorization:error:", configuration,
+                                                           authorization, &commitError);
             if (!committed) {
                 error = commitError != nullptr ? errorText(commitError) : errorText(authorizationError);
             }

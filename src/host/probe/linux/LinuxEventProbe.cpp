@@ -16,8 +16,8 @@
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 
-#include "host/parse/NetlinkMessages.h"
 #include <tvpolicy/base/OwnedFd.h>
+#include "host/parse/NetlinkMessages.h"
 #include "host/probe/linux/SdBus.h"
 
 // The address-message parser is OS-neutral and carries the kernel's numbers itself.
@@ -57,7 +57,8 @@ Ready pollWithWake(int fd, short events, int wakeFd, const std::optional<Clock::
             std::timespec now{};
             ::clock_gettime(CLOCK_MONOTONIC, &now);
             std::uint64_t nowMicros = static_cast<std::uint64_t>(now.tv_sec) * 1'000'000 + now.tv_nsec / 1000;
-            long long busLeft = busTimeout > nowMicros ? static_cast<long long>((busTimeout - nowMicros + 999) / 1000) : 0;
+            long long busLeft =
+                busTimeout > nowMicros ? static_cast<long long>((busTimeout - nowMicros + 999) / 1000) : 0;
             timeout = timeout < 0 ? static_cast<int>(std::min<long long>(busLeft, 3'600'000))
                                   : static_cast<int>(std::min<long long>(busLeft, timeout));
         }
@@ -85,14 +86,10 @@ Ready pollWithWake(int fd, short events, int wakeFd, const std::optional<Clock::
 std::optional<EventProbe::Wake> endOfWait(Ready ready)
 {
     switch (ready) {
-    case Ready::Woken:
-        return EventProbe::Wake::Stopped;
-    case Ready::TimedOut:
-        return EventProbe::Wake::TimedOut;
-    case Ready::Failed:
-        return EventProbe::Wake::Failed;
-    case Ready::Source:
-        break;
+    case Ready::Woken: return EventProbe::Wake::Stopped;
+    case Ready::TimedOut: return EventProbe::Wake::TimedOut;
+    case Ready::Failed: return EventProbe::Wake::Failed;
+    case Ready::Source: break;
     }
     return std::nullopt;
 }

@@ -298,7 +298,8 @@ HostProbe::ApplicationListing LinuxHostProbe::applicationListing() const
     if (::access(rpm.c_str(), X_OK) == 0) {
         listing.format = ApplicationListing::Format::RpmQuery;
         listing.text = getOutputFromCommand(
-            shellQuoted(rpm) + " -qa --qf '%{NAME}\\t%|EPOCH?{%{EPOCH}:}:{}|%{VERSION}-%{RELEASE}\\n' 2>/dev/null", 8192);
+            shellQuoted(rpm) + " -qa --qf '%{NAME}\\t%|EPOCH?{%{EPOCH}:}:{}|%{VERSION}-%{RELEASE}\\n' 2>/dev/null",
+            8192);
     }
     return listing;
 }

@@ -12,13 +12,13 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/base/Utilities.h>
+#include <tvpolicy/host/HostProbe.h>
 
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/parse/NetText.h"
 #include "host/parse/ProcText.h"
 #include "host/probe/InterfaceAddressList.h"
-#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/linux/NetworkManager.h"
 
 namespace tvpolicy {
@@ -168,8 +168,8 @@ bool LinuxNetworkProbe::renewAddress(const std::string& name)
     }
     // The shell says so when networkctl succeeded: a shell that could not be started says
     // nothing, where its bare status (0 then) would read as success.
-    return currentHost().commandOutput("networkctl renew " + shellQuoted(name) + " >/dev/null 2>&1 && echo renewed", 64) ==
-           "renewed\n";
+    return currentHost().commandOutput("networkctl renew " + shellQuoted(name) + " >/dev/null 2>&1 && echo renewed",
+                                       64) == "renewed\n";
 }
 
 NetworkProbe::GuestTools LinuxNetworkProbe::guestTools() const

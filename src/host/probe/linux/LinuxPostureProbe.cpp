@@ -18,11 +18,11 @@
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/Utilities.h>
 
+#include <tvpolicy/base/OwnedFd.h>
 #include "host/parse/MountInfo.h"
 #include "host/parse/NftRuleset.h"
 #include "host/parse/ProcText.h"
 #include "host/parse/SockDiag.h"
-#include <tvpolicy/base/OwnedFd.h>
 #include "host/probe/PosixFiles.h"
 #include "host/probe/linux/SdBus.h"
 
@@ -43,8 +43,8 @@ std::optional<std::string> unitPath(linux_bus::SystemBus& bus, const std::string
 {
     auto append = [&](sd_bus_message* m) { return sd_bus_message_append(m, "s", unit.c_str()); };
     for (const char* method : {"GetUnit", "LoadUnit"}) {
-        linux_bus::Message reply = bus.call(systemd, "/org/freedesktop/systemd1", "org.freedesktop.systemd1.Manager",
-                                            method, append);
+        linux_bus::Message reply =
+            bus.call(systemd, "/org/freedesktop/systemd1", "org.freedesktop.systemd1.Manager", method, append);
         const char* path = nullptr;
         if (reply && sd_bus_message_read(reply.get(), "o", &path) > 0) {
             return std::string(path);
@@ -65,12 +65,15 @@ bool dumpSockets(int family, int protocol, std::uint32_t states, std::vector<par
         error = std::string("socket diagnostics: ") + std::strerror(errno);
         return false;
     }
-    struct timeval timeout {5, 0};
+    struct timeval timeout {
+        5, 0
+    };
     ::setsockopt(fd.get(), SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof timeout);
     std::vector<unsigned char> request = parse::sockDiagRequest(family, protocol, states, 1);
     struct sockaddr_nl kernel {};
     kernel.nl_family = AF_NETLINK;
-    if (::sendto(fd.get(), request.data(), request.size(), 0, reinterpret_cast<sockaddr*>(&kernel), sizeof kernel) < 0) {
+    if (::sendto(fd.get(), request.data(), request.size(), 0, reinterpret_cast<sockaddr*>(&kernel), sizeof kernel) <
+        0) {
         error = std::string("socket diagnostics: ") + std::strerror(errno);
         return false;
     }

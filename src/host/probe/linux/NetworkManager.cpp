@@ -111,23 +111,26 @@ void readSettings(sd_bus_message* m, Flat& flat)
         flat[setting] = text(std::string());  // the setting is present
         linux_bus::readVariantDictionary(m, [&](const std::string& key, sd_bus_message* v) {
             std::string full = setting + "." + key;
-            return linux_bus::readVariant(v, "s", [&](sd_bus_message* in) {
-                       const char* value = nullptr;
-                       bool ok = sd_bus_message_read(in, "s", &value) > 0;
-                       flat[full] = text(ok ? value : "");
-                       return ok;
-                   }) ||
-                   linux_bus::readVariant(v, "ay", [&](sd_bus_message* in) {
-                       std::optional<std::string> value = linux_bus::readBytes(in);
-                       flat[full] = bytes(value.value_or(std::string()));
-                       return value.has_value();
-                   }) ||
-                   linux_bus::readVariant(v, "i", [&](sd_bus_message* in) {
-                       std::int32_t value = 0;
-                       bool ok = sd_bus_message_read(in, "i", &value) > 0;
-                       flat[full] = int32(value);
-                       return ok;
-                   }) ||
+            return linux_bus::readVariant(v, "s",
+                                          [&](sd_bus_message* in) {
+                                              const char* value = nullptr;
+                                              bool ok = sd_bus_message_read(in, "s", &value) > 0;
+                                              flat[full] = text(ok ? value : "");
+                                              return ok;
+                                          }) ||
+                   linux_bus::readVariant(v, "ay",
+                                          [&](sd_bus_message* in) {
+                                              std::optional<std::string> value = linux_bus::readBytes(in);
+                                              flat[full] = bytes(value.value_or(std::string()));
+                                              return value.has_value();
+                                          }) ||
+                   linux_bus::readVariant(v, "i",
+                                          [&](sd_bus_message* in) {
+                                              std::int32_t value = 0;
+                                              bool ok = sd_bus_message_read(in, "i", &value) > 0;
+                                              flat[full] = int32(value);
+                                              return ok;
+                                          }) ||
                    linux_bus::readVariant(v, "as", [&](sd_bus_message* in) {
                        flat[full] = texts(linux_bus::readStrings(in));
                        return true;
@@ -159,7 +162,8 @@ std::vector<std::string> flatList(const Flat& flat, const std::string& key)
 
 bool onlyWpa(const std::vector<std::string>& protocols)
 {
-    return !protocols.empty() && std::all_of(protocols.begin(), protocols.end(), [](const std::string& p) { return p == "wpa"; });
+    return !protocols.empty() &&
+           std::all_of(protocols.begin(), protocols.end(), [](const std::string& p) { return p == "wpa"; });
 }
 
 // The security mode of stored settings, numbered as the Wi-Fi manager numbers them.
@@ -270,11 +274,11 @@ std::string NetworkManagerClient::dhcpDomainName()
     if (reply) {
         linux_bus::readVariantDictionary(reply.get(), [&domain](const std::string& key, sd_bus_message* m) {
             return key == "domain_name" && linux_bus::readVariant(m, "s", [&domain](sd_bus_message* in) {
-                const char* value = nullptr;
-                bool ok = sd_bus_message_read(in, "s", &value) > 0;
-                domain = ok ? value : "";
-                return ok;
-            });
+                       const char* value = nullptr;
+                       bool ok = sd_bus_message_read(in, "s", &value) > 0;
+                       domain = ok ? value : "";
+                       return ok;
+                   });
         });
     }
     return domain;
@@ -349,8 +353,8 @@ std::optional<NetworkProbe::WifiNetwork> NetworkManagerClient::accessPoint(const
     if ((rsn & keyMgmt8021X) != 0) {
         modes.push_back(6);
     }
-    network.description = "<CWNetwork: ssid=" + network.ssid + ", bssid=" + network.bssid +
-                          ", securityModes=" + modesText(modes) + ">";
+    network.description =
+        "<CWNetwork: ssid=" + network.ssid + ", bssid=" + network.bssid + ", securityModes=" + modesText(modes) + ">";
     return network;
 }
 
@@ -530,8 +534,9 @@ std::vector<NetworkManagerClient::StoredWifi> NetworkManagerClient::storedWifi()
         if (wifi.settings.passphrase.empty() && mode != 0) {
             // NetworkManager hands secrets out separately.
             const char* setting = mode >= 4 ? "802-1x" : "802-11-wireless-security";
-            Message secrets = bus_.call(nm, path, connectionIface, "GetSecrets",
-                                        [setting](sd_bus_message* m) { return sd_bus_message_append(m, "s", setting); });
+            Message secrets = bus_.call(nm, path, connectionIface, "GetSecrets", [setting](sd_bus_message* m) {
+                return sd_bus_message_append(m, "s", setting);
+            });
             if (secrets) {
                 readSettings(secrets.get(), flat);
                 wifi.settings.passphrase = secretOf(flat, mode);

@@ -72,9 +72,8 @@ Message SystemBus::callWithTimeout(const char* destination, const std::string& p
 Message SystemBus::property(const char* destination, const std::string& path, const char* interface, const char* name,
                             const char* type)
 {
-    Message reply = call(destination, path, "org.freedesktop.DBus.Properties", "Get", [&](sd_bus_message* m) {
-        return sd_bus_message_append(m, "ss", interface, name);
-    });
+    Message reply = call(destination, path, "org.freedesktop.DBus.Properties", "Get",
+                         [&](sd_bus_message* m) { return sd_bus_message_append(m, "ss", interface, name); });
     if (!reply || sd_bus_message_enter_container(reply.get(), 'v', type) <= 0) {
         return nullptr;
     }
@@ -180,7 +179,8 @@ bool readVariant(sd_bus_message* message, const char* type, const std::function<
     return ok;
 }
 
-bool readVariantDictionary(sd_bus_message* message, const std::function<bool(const std::string&, sd_bus_message*)>& visit)
+bool readVariantDictionary(sd_bus_message* message,
+                           const std::function<bool(const std::string&, sd_bus_message*)>& visit)
 {
     if (sd_bus_message_enter_container(message, 'a', "{sv}") <= 0) {
         return false;

@@ -71,7 +71,8 @@ std::vector<std::string> readStrings(sd_bus_message* message);
 /// Walks a dictionary of variants ("a{sv}") at the message's position: `visit` is called with
 /// each key and the message positioned at its variant, and must read the variant or return
 /// false (then it is skipped). False when the message is not such a dictionary.
-bool readVariantDictionary(sd_bus_message* message, const std::function<bool(const std::string&, sd_bus_message*)>& visit);
+bool readVariantDictionary(sd_bus_message* message,
+                           const std::function<bool(const std::string&, sd_bus_message*)>& visit);
 
 /// Reads a variant holding `type` with `read` (which reads the contents); false when the
 /// variant holds another type (it is then left unread).
