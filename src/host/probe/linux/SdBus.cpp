@@ -7,7 +7,7 @@ namespace tvpolicy::linux_bus {
 namespace {
 
 struct ErrorHolder {
-    sd_bus_error error = SD_BUS_ERROR_NULL;
+    sd_bus_error error{};  // SD_BUS_ERROR_NULL, which is a C compound literal
     ~ErrorHolder() { sd_bus_error_free(&error); }
 };
 
