@@ -217,7 +217,9 @@ void standAlone(const std::map<std::string, Section*>& scope, std::vector<Notice
                                "pass, it still fails the policy"});
         }
         const auto& tasks = section->getTasks();
-        if (std::any_of(tasks.begin(), tasks.end(), [&](Task* task) { return asksToSkip(*section, *task); })) {
+        // A structured binding cannot be captured by a lambda in C++17 (Clang refuses it).
+        Section& evaluated = *section;
+        if (std::any_of(tasks.begin(), tasks.end(), [&](Task* task) { return asksToSkip(evaluated, *task); })) {
             out.push_back({"stand-alone-skip", true, line, name,
                            "section \"" + name +
                                "\" has an <and skip=\"true\"> but stands alone: a skipped "
