@@ -85,7 +85,11 @@ std::string asToml(const AgentSettings& settings)
         table.insert("login", std::move(login));
     }
     std::ostringstream text;
-    text << table;
+    // Basic one-line strings only: a multi-line string that starts with a line end would lose
+    // it when read back (TOML drops the line end right after the opening quotes).
+    text << toml::toml_formatter(table, toml::toml_formatter::default_flags &
+                                            ~toml::format_flags::allow_multi_line_strings &
+                                            ~toml::format_flags::allow_literal_strings);
     return text.str();
 }
 
