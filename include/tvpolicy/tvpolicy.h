@@ -68,6 +68,7 @@
 #include <tvpolicy/host/ApplicationInventoryItem.h>
 #include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/EventProbe.h>
+#include <tvpolicy/host/ForwardingHostProbe.h>
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/IPChangeNotifier.h>
 #include <tvpolicy/host/MACChangeNotifier.h>

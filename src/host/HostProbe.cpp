@@ -1,5 +1,7 @@
 #include <tvpolicy/host/HostProbe.h>
 
+#include <tvpolicy/host/ForwardingHostProbe.h>
+
 #include <algorithm>
 
 #include "host/ProbeSlot.h"
@@ -18,6 +20,9 @@ HostProbe::ApplicationListing HostProbe::applicationListing() const { return {};
 
 HostProbe::ProcessCounts HostProbe::processCounts() const
 {
+    if (const auto* forward = dynamic_cast<const ForwardingHostProbe*>(this)) {
+        return forward->inner().processCounts();
+    }
     if (const auto* scan = dynamic_cast<const host::ProcessScan*>(this)) {
         return scan->scanCounts();
     }
@@ -31,6 +36,9 @@ HostProbe::ProcessCounts HostProbe::processCounts() const
 
 bool HostProbe::runsProcessNamed(const std::string& name) const
 {
+    if (const auto* forward = dynamic_cast<const ForwardingHostProbe*>(this)) {
+        return forward->inner().runsProcessNamed(name);
+    }
     if (const auto* scan = dynamic_cast<const host::ProcessScan*>(this)) {
         return scan->scanForName(name);
     }

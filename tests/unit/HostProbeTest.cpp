@@ -1,4 +1,5 @@
 #include <tvpolicy/host/DescribedHostProbe.h>
+#include <tvpolicy/host/ForwardingHostProbe.h>
 #include <tvpolicy/host/HostProbe.h>
 
 #include <gtest/gtest.h>
@@ -61,6 +62,26 @@ TEST(HostProbe, DescribedHostKeepsMappedPathsInsideTheirFolder)
 TEST(HostProbe, RealBackendMapsNothing)
 {
     EXPECT_EQ(tvpolicy::systemHost().systemPath("/Library/Receipts/"), "/Library/Receipts/");
+}
+
+// A forwarding probe answers process questions with the inner probe's own scans (on Linux the
+// backend's, which read of each process only what decides), never through its own table: the
+// program's run wraps the system's probe in one, and must keep the fast scans.
+TEST(ForwardingHostProbe, ProcessQuestionsGoToTheInnerProbe)
+{
+    DescribedHostProbe inner;
+    inner.node = "alpha.lan";
+    inner.processes = {{1, "init", std::string("/sbin/init"), false}, {2, "secret", std::nullopt, true}};
+    struct NoTable : tvpolicy::ForwardingHostProbe {
+        using ForwardingHostProbe::ForwardingHostProbe;
+        std::vector<ProcessEntry> processTable() const override { return {}; }
+    } outer(inner);
+    EXPECT_EQ(outer.nodeName(), "alpha.lan");
+    EXPECT_TRUE(outer.runsProcessNamed("init"));
+    EXPECT_FALSE(outer.runsProcessNamed("secret"));
+    auto counts = outer.processCounts();
+    EXPECT_EQ(counts.total, 2u);
+    EXPECT_EQ(counts.withheld, 1u);
 }
 
 }  // namespace

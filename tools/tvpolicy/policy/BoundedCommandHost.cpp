@@ -85,7 +85,7 @@ std::string secondsText(std::chrono::milliseconds duration)
 }  // namespace
 
 BoundedCommandHost::BoundedCommandHost(tvpolicy::HostProbe& inner, std::chrono::milliseconds timeout)
-    : inner_(inner),
+    : ForwardingHostProbe(inner),
       timeout_(timeout)
 {
 }

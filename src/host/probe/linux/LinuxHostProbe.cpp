@@ -15,6 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <tvpolicy/base/OwnedFd.h>
 #include <tvpolicy/base/Utilities.h>
 
 #include "host/ProcessNames.h"
@@ -87,6 +88,23 @@ private:
     std::string_view view_;
     bool withheld_ = false;
 };
+
+// A process's short name file, read in one call: the kernel gives its at most 16 bytes and the
+// line end whole to the first read, so neither a size nor a second read is asked for.
+bool readShortName(int procFd, const char* path, std::string& comm)
+{
+    OwnedFd fd(::openat(procFd, path, O_RDONLY | O_CLOEXEC | O_NOCTTY));
+    if (!fd.valid()) {
+        return false;
+    }
+    char buffer[64];
+    ssize_t length = ::read(fd.get(), buffer, sizeof buffer);
+    if (length < 0) {
+        return false;
+    }
+    comm.assign(buffer, static_cast<std::size_t>(length));
+    return true;
+}
 
 // Single-quotes `text` for the shell, so that a URL is one argument whatever it holds.
 std::string shellQuoted(const std::string& text)
@@ -180,7 +198,7 @@ std::vector<HostProbe::ProcessEntry> LinuxHostProbe::processTable() const
     std::string comm;
     ProcFile file;
     forEachProcess([&](int procFd, const char* pid) {
-        if (!readAt(procFd, file.path(pid, "comm"), 256, comm)) {
+        if (!readShortName(procFd, file.path(pid, "comm"), comm)) {
             return true;  // ended since the folder was listed
         }
         ProcessEntry process;
@@ -226,7 +244,7 @@ bool LinuxHostProbe::scanForName(const std::string& name) const
             return true;  // a process whose executable cannot be read never matches
         }
         found = host::isExecutableNamed(exe.target(), name) ||
-                (shortNameCanMatch && readAt(procFd, file.path(pid, "comm"), 256, comm) &&
+                (shortNameCanMatch && readShortName(procFd, file.path(pid, "comm"), comm) &&
                  parse::procCommName(comm) == name);
         return !found;
     });
