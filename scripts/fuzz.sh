@@ -19,7 +19,7 @@
 #
 # The coverage build lives in build-fuzz-coverage/ (or $COVERAGE_BUILD_DIR); its HTML report,
 # line by line, in build-fuzz-coverage/coverage/. A parser file below 80% of its lines fails
-# the report unless fuzz/unreachable.txt names the lines that no input can reach, and why.
+# the report unless fuzz/unreachable.txt names the functions that no input can reach, and why.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -135,7 +135,8 @@ if [[ $mode == coverage ]]; then
   mapfile -t parsers < <(printf '%s\n' "${parsers[@]}" | sort -u)
   # The programs name their sources as the compiler saw them, from the build folder.
   sources=("${parsers[@]/#/$(cd "$build_dir" && pwd)/../}")
-  llvm-cov export -summary-only -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}" \
+  # The export with its functions, whose spans fuzz/unreachable.txt's names are matched against.
+  llvm-cov export -skip-expansions -instr-profile "$build_dir/fuzz.profdata" "${objects[@]}" "${sources[@]}" \
     >"$work/summary.json"
   # show takes no file names in the form the programs keep them: it shows every file.
   llvm-cov show -format=html -show-branches=count -output-dir="$build_dir/coverage" \

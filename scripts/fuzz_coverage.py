@@ -1,12 +1,15 @@
 """The coverage table of scripts/fuzz.sh --coverage.
 
-Arguments: llvm-cov's summary (export -summary-only), its line counts (show, as text), the
-build's fuzz-parsers.txt (a target
-and its parser files on each line), fuzz/unreachable.txt, the top of the repository and the
-targets that were run. Prints per target and parser file the lines and branches its corpus
-reaches; fails when a file is below the floor unless fuzz/unreachable.txt names its missed
-lines: those it names are then left out, and the rest must reach the floor.
+Arguments: llvm-cov's export of the parser files (with their functions), its line counts
+(show, as text), the build's fuzz-parsers.txt (a target and its parser files on each line),
+fuzz/unreachable.txt, the top of the repository and the targets that were run. Prints per
+target and parser file the lines and branches its corpus reaches; fails when a file is below
+the floor unless fuzz/unreachable.txt names functions of it as out of reach: the lines of those
+functions that were missed are then left out, and the rest must reach the floor. Functions are
+named rather than lines so that the notes survive edits; a name that matches no function of
+its file fails, so that a renamed function cannot leave a stale note.
 """
+import subprocess
 import json
 import os
 import re
@@ -16,7 +19,7 @@ FLOOR = 80.0
 
 
 def read_notes(path):
-    """fuzz/unreachable.txt: "<file> | <lines> | <why>" per line; '#' starts a comment."""
+    """fuzz/unreachable.txt: "<file> | <functions> | <why>" per line; '#' starts a comment."""
     notes = {}
     try:
         with open(path, encoding="utf-8") as text:
@@ -25,10 +28,10 @@ def read_notes(path):
                 if not line:
                     continue
                 fields = [field.strip() for field in line.split("|")]
-                if (len(fields) != 3 or not all(fields)
-                        or not re.fullmatch(r"\d+(-\d+)?(\s*,\s*\d+(-\d+)?)*", fields[1])):
-                    sys.exit(f"{path}:{number}: expected '<file> | <lines> | <why>'")
-                notes[fields[0]] = (fields[1], fields[2])
+                if len(fields) != 3 or not all(fields):
+                    sys.exit(f"{path}:{number}: expected '<file> | <functions> | <why>'")
+                names = [name.strip() for name in fields[1].split(",") if name.strip()]
+                notes[fields[0]] = (names, fields[2])
     except FileNotFoundError:
         pass
     return notes
@@ -50,13 +53,41 @@ def missed_lines(path, root):
     return missed
 
 
-def line_numbers(ranges):
-    """ "3-5, 9" as {3, 4, 5, 9}."""
-    numbers = set()
-    for part in ranges.split(","):
-        first, _, last = part.strip().partition("-")
-        numbers.update(range(int(first), int(last or first) + 1))
-    return numbers
+def plain_name(demangled):
+    """ "Section.cpp:(anonymous namespace)::isWebUrl(std::string const&)" as
+    "(anonymous namespace)::isWebUrl": no file prefix, parameters or ABI tags."""
+    anonymous, call = "(anonymous namespace)", "operator()"
+    name = demangled.replace(anonymous, "\0").replace(call, "\1")
+    name = re.sub(r"\[abi:[^\]]*\]", "", name.split("(", 1)[0])
+    name = name.split(":", 1)[1] if re.match(r"^[\w.-]+\.\w+:[^:]", name) else name
+    return name.replace("\0", anonymous).replace("\1", call)
+
+
+def function_spans(export, root):
+    """{file: [(plain name, first line, last line)]} of the functions in llvm-cov's export."""
+    functions = [f for data in export["data"] for f in data.get("functions", [])]
+    demangled = subprocess.run(["c++filt"], input="\n".join(f["name"] for f in functions),
+                               capture_output=True, text=True, check=True).stdout.split("\n")
+    spans = {}
+    for function, name in zip(functions, demangled):
+        body = function["regions"][0]
+        source = os.path.relpath(os.path.normpath(function["filenames"][body[5]]), root)
+        spans.setdefault(source, []).append((plain_name(name), body[0], body[2]))
+    return spans
+
+
+def named_lines(names, spans, source):
+    """The lines of the functions of `source` that `names` name (a name matches a function
+    whose qualified name is it or ends in "::" and it); the names that match none."""
+    lines, unmatched = set(), []
+    for name in names:
+        found = [(first, last) for plain, first, last in spans.get(source, [])
+                 if plain == name or plain.endswith("::" + name)]
+        if not found:
+            unmatched.append(name)
+        for first, last in found:
+            lines.update(range(first, last + 1))
+    return lines, unmatched
 
 
 def share(part):
@@ -68,6 +99,7 @@ def share(part):
 def main(summary_path, lines_path, parsers_path, notes_path, root, *targets):
     with open(summary_path, encoding="utf-8") as text:
         summary = json.load(text)
+    spans = function_spans(summary, root)
     files = {}
     for export in summary["data"]:
         for entry in export["files"]:
@@ -93,12 +125,17 @@ def main(summary_path, lines_path, parsers_path, notes_path, root, *targets):
             lines, line_share = share(found["lines"])
             branches, _ = share(found["branches"])
             verdict = ""
+            if source in notes:
+                named, unmatched = named_lines(notes[source][0], spans, source)
+                if unmatched:
+                    print(f"fuzz/unreachable.txt: {source} has no function {', '.join(unmatched)}")
+                    failed = True
             if line_share < FLOOR:
                 if source in notes:
-                    named = line_numbers(notes[source][0]) & missed.get(source, set())
+                    named &= missed.get(source, set())
                     total = found["lines"]["count"] - len(named)
                     rest = 100.0 * found["lines"]["covered"] / total if total else 100.0
-                    verdict = f"  {rest:.1f}% without lines {notes[source][0]}: {notes[source][1]}"
+                    verdict = f"  {rest:.1f}% without {', '.join(notes[source][0])}: {notes[source][1]}"
                     if rest < FLOOR:
                         verdict = f"  BELOW {FLOOR:.0f}% even without the lines named unreachable ({rest:.1f}%)"
                         failed = True
