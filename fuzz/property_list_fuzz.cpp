@@ -40,8 +40,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    std::string error;
-    auto root = tvpolicy::parse::parsePropertyList(std::string(reinterpret_cast<const char*>(data), size), error);
+    auto root = tvpolicy::parse::parsePropertyList(std::string(reinterpret_cast<const char*>(data), size));
     if (root) {
         walk(*root);
     }

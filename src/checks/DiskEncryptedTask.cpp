@@ -23,10 +23,10 @@ private:
     {
         std::string mount = attribute("mount", "/");
         auto table = currentPosture().mountTable();
-        if (!table.value) {
-            return unknown(table.error);
+        if (!table) {
+            return unknown(table.error());
         }
-        auto entry = parse::mountAt(parse::parseMountInfo(*table.value), mount);
+        auto entry = parse::mountAt(parse::parseMountInfo(*table), mount);
         if (!entry) {
             return unknown(mount + " is not mounted");
         }
@@ -40,18 +40,18 @@ private:
                 continue;
             }
             auto block = currentPosture().blockDevice(device);
-            if (!block.value) {
+            if (!block) {
                 // A file system without a block device (tmpfs, overlay, a network share).
                 if (device == entry->device) {
                     return {false, found + " is not on a block device"};
                 }
                 continue;
             }
-            const auto& uuid = block.value->deviceMapperUuid;
+            const auto& uuid = block->deviceMapperUuid;
             if (uuid && uuid->rfind("CRYPT-", 0) == 0) {
                 return {true, found + " is on dm-crypt device " + device + " (" + *uuid + ")"};
             }
-            pending.insert(pending.end(), block.value->below.begin(), block.value->below.end());
+            pending.insert(pending.end(), block->below.begin(), block->below.end());
         }
         return {false, found + " is not on a dm-crypt device"};
     }

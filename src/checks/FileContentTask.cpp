@@ -61,11 +61,11 @@ private:
             return unknown(problem);
         }
         std::string path = attribute("path");
-        std::string text;
-        std::string error;
-        if (!probe::readText(currentHost().systemPath(path), fileLimit + 1, text, error)) {
-            return unknown(path + " cannot be read: " + error);
+        auto read = probe::readText(currentHost().systemPath(path), fileLimit + 1);
+        if (!read) {
+            return unknown(path + " cannot be read: " + read.error());
         }
+        const std::string& text = *read;
         if (text.size() > fileLimit) {
             return unknown(path + " is larger than 16 MB");
         }

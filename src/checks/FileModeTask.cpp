@@ -34,10 +34,10 @@ private:
     {
         std::string path = attribute("path");
         auto status = currentPosture().fileStatus(path);
-        if (!status.value) {
-            return unknown(path + ": " + status.error);
+        if (!status) {
+            return unknown(path + ": " + status.error());
         }
-        const PostureProbe::FileStatus& file = *status.value;
+        const PostureProbe::FileStatus& file = *status;
         std::string found = path + ": owner " + shown(file.owner, file.uid) + ", group " + shown(file.group, file.gid) +
                             ", mode " + octal(file.mode);
         std::string owner = attribute("owner");

@@ -35,10 +35,10 @@ private:
     {
         std::string name = attribute("name");
         auto value = currentPosture().kernelParameter(name);
-        if (!value.value) {
-            return unknown(name + ": " + value.error);
+        if (!value) {
+            return unknown(name + ": " + value.error());
         }
-        std::string found = folded(*value.value);
+        std::string found = folded(*value);
         bool passed = found == attribute("value");
         return {passed, name + " = " + found + (passed ? "" : ", not " + attribute("value"))};
     }

@@ -18,12 +18,12 @@ private:
         parsePort(attribute("port"), port);
         std::string protocol = attribute("protocol", "tcp");
         auto sockets = currentPosture().listeningSockets(protocol);
-        if (!sockets.value) {
-            return unknown(sockets.error);
+        if (!sockets) {
+            return unknown(sockets.error());
         }
         bool ipv4 = false;
         bool ipv6 = false;
-        for (const auto& socket : *sockets.value) {
+        for (const auto& socket : *sockets) {
             if (socket.port == port) {
                 (socket.ipv6 ? ipv6 : ipv4) = true;
             }
@@ -49,11 +49,11 @@ private:
     Outcome check() override
     {
         auto chains = currentPosture().packetFilter();
-        if (!chains.value) {
-            return unknown(chains.error);
+        if (!chains) {
+            return unknown(chains.error());
         }
         int inputChains = 0;
-        for (const auto& chain : *chains.value) {
+        for (const auto& chain : *chains) {
             if (!filtersInput(chain)) {
                 continue;
             }

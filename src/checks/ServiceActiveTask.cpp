@@ -20,15 +20,15 @@ private:
             unit += ".service";
         }
         auto state = currentPosture().unitState(unit);
-        if (!state.value) {
-            return unknown(unit + ": " + state.error);
+        if (!state) {
+            return unknown(unit + ": " + state.error());
         }
-        std::string found = unit + " is " + state.value->activeState;
-        if (!state.value->unitFileState.empty()) {
-            found += " (" + state.value->unitFileState + ")";
+        std::string found = unit + " is " + state->activeState;
+        if (!state->unitFileState.empty()) {
+            found += " (" + state->unitFileState + ")";
         }
-        bool active = state.value->activeState == "active";
-        bool enabledOk = !flag("enabled") || state.value->unitFileState == "enabled";
+        bool active = state->activeState == "active";
+        bool enabledOk = !flag("enabled") || state->unitFileState == "enabled";
         if (active && !enabledOk) {
             found += ", not enabled";
         }

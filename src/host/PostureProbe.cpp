@@ -37,34 +37,34 @@ PostureProbe::~PostureProbe() = default;
 
 PostureProbe::Fact<PostureProbe::UnitState> PostureProbe::unitState(const std::string&) const
 {
-    return Fact<UnitState>::failed(notAvailable());
+    return Fact<UnitState>(Failure{notAvailable()});
 }
 
 PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> PostureProbe::listeningSockets(const std::string&) const
 {
-    return Fact<std::vector<ListeningSocket>>::failed(notAvailable());
+    return Fact<std::vector<ListeningSocket>>(Failure{notAvailable()});
 }
 
 PostureProbe::Fact<std::vector<PostureProbe::FilterChain>> PostureProbe::packetFilter() const
 {
-    return Fact<std::vector<FilterChain>>::failed(notAvailable());
+    return Fact<std::vector<FilterChain>>(Failure{notAvailable()});
 }
 
-PostureProbe::Fact<std::string> PostureProbe::mountTable() const { return Fact<std::string>::failed(notAvailable()); }
+PostureProbe::Fact<std::string> PostureProbe::mountTable() const { return Fact<std::string>(Failure{notAvailable()}); }
 
 PostureProbe::Fact<PostureProbe::BlockDevice> PostureProbe::blockDevice(const std::string&) const
 {
-    return Fact<BlockDevice>::failed(notAvailable());
+    return Fact<BlockDevice>(Failure{notAvailable()});
 }
 
 PostureProbe::Fact<std::string> PostureProbe::kernelParameter(const std::string&) const
 {
-    return Fact<std::string>::failed(notAvailable());
+    return Fact<std::string>(Failure{notAvailable()});
 }
 
 PostureProbe::Fact<PostureProbe::FileStatus> PostureProbe::fileStatus(const std::string&) const
 {
-    return Fact<FileStatus>::failed(notAvailable());
+    return Fact<FileStatus>(Failure{notAvailable()});
 }
 
 PostureProbe& currentPosture()
@@ -97,7 +97,7 @@ void DescribedPosture::addMount(const std::string& mountPoint, bool encrypted)
 PostureProbe::Fact<PostureProbe::UnitState> DescribedPosture::unitState(const std::string& unit) const
 {
     auto found = units.find(unit);
-    return found != units.end() ? Fact<UnitState>::of(found->second) : Fact<UnitState>::failed("not found");
+    return found != units.end() ? Fact<UnitState>(found->second) : Fact<UnitState>(Failure{"not found"});
 }
 
 PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> DescribedPosture::listeningSockets(
@@ -106,34 +106,34 @@ PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> DescribedPosture:
     std::vector<ListeningSocket> sockets;
     std::copy_if(listening.begin(), listening.end(), std::back_inserter(sockets),
                  [&](const ListeningSocket& socket) { return socket.protocol == protocol; });
-    return Fact<std::vector<ListeningSocket>>::of(std::move(sockets));
+    return Fact<std::vector<ListeningSocket>>(std::move(sockets));
 }
 
 PostureProbe::Fact<std::vector<PostureProbe::FilterChain>> DescribedPosture::packetFilter() const
 {
-    return Fact<std::vector<FilterChain>>::of(filterChains);
+    return Fact<std::vector<FilterChain>>(filterChains);
 }
 
-PostureProbe::Fact<std::string> DescribedPosture::mountTable() const { return Fact<std::string>::of(mounts); }
+PostureProbe::Fact<std::string> DescribedPosture::mountTable() const { return Fact<std::string>(mounts); }
 
 PostureProbe::Fact<PostureProbe::BlockDevice> DescribedPosture::blockDevice(const std::string& majorMinor) const
 {
     auto found = blockDevices.find(majorMinor);
-    return found != blockDevices.end() ? Fact<BlockDevice>::of(found->second)
-                                       : Fact<BlockDevice>::failed("no block device " + majorMinor);
+    return found != blockDevices.end() ? Fact<BlockDevice>(found->second)
+                                       : Fact<BlockDevice>(Failure{"no block device " + majorMinor});
 }
 
 PostureProbe::Fact<std::string> DescribedPosture::kernelParameter(const std::string& name) const
 {
     auto found = kernelParameters.find(name);
-    return found != kernelParameters.end() ? Fact<std::string>::of(found->second)
-                                           : Fact<std::string>::failed("no such parameter");
+    return found != kernelParameters.end() ? Fact<std::string>(found->second)
+                                           : Fact<std::string>(Failure{"no such parameter"});
 }
 
 PostureProbe::Fact<PostureProbe::FileStatus> DescribedPosture::fileStatus(const std::string& path) const
 {
     auto found = files.find(path);
-    return found != files.end() ? Fact<FileStatus>::of(found->second) : systemPosture().fileStatus(path);
+    return found != files.end() ? Fact<FileStatus>(found->second) : systemPosture().fileStatus(path);
 }
 
 }  // namespace tvpolicy

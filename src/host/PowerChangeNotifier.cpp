@@ -43,15 +43,15 @@ bool PowerChangeNotifier::enable()
     if (watch_) {
         return true;
     }
-    std::string error;
-    watch_ = tvpolicy::currentEvents().watchPower(error);
-    if (!watch_) {
+    auto watch = tvpolicy::currentEvents().watchPower();
+    if (!watch) {
         tslog(std::clog) << "IORegisterForSystemPower failed" << std::endl;
-        if (!error.empty()) {
-            tslog(std::clog) << "PowerChangeNotifier: " << error << std::endl;
+        if (!watch.error().empty()) {
+            tslog(std::clog) << "PowerChangeNotifier: " << watch.error() << std::endl;
         }
         return false;
     }
+    watch_ = std::move(watch).value();
     stop_->reset();
     return true;
 }

@@ -145,16 +145,15 @@ std::unique_ptr<EventProbe::AddressWatch> FakeEvents::watchAddresses()
     return std::make_unique<FakeAddressWatch>(queue_);
 }
 
-std::unique_ptr<EventProbe::PowerWatch> FakeEvents::watchPower(std::string& error)
+tvpolicy::Result<std::unique_ptr<EventProbe::PowerWatch>> FakeEvents::watchPower()
 {
     if (!powerRegistrationError.empty()) {
-        error = powerRegistrationError;
-        return nullptr;
+        return tvpolicy::Failure{powerRegistrationError};
     }
     std::lock_guard<std::mutex> lock(queue_->mutex);
     queue_->endWhenDrained = endWhenDrained;
     ++queue_->powerWatches;
-    return std::make_unique<FakePowerWatch>(queue_);
+    return std::unique_ptr<PowerWatch>(std::make_unique<FakePowerWatch>(queue_));
 }
 
 }  // namespace testing_support

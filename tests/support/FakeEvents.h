@@ -37,7 +37,7 @@ public:
     int powerWatchesOpened() const;
 
     std::unique_ptr<AddressWatch> watchAddresses() override;
-    std::unique_ptr<PowerWatch> watchPower(std::string& error) override;
+    tvpolicy::Result<std::unique_ptr<PowerWatch>> watchPower() override;
 
     /// The state shared with the watches (internal).
     struct Queue;

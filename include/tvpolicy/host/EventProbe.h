@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/export.h>
 
 namespace tvpolicy {
@@ -70,8 +71,8 @@ public:
 
     /// Subscribes to address changes; null when the subscription could not be made.
     virtual std::unique_ptr<AddressWatch> watchAddresses() = 0;
-    /// Registers for power notifications; null, with `error` set, when that failed.
-    virtual std::unique_ptr<PowerWatch> watchPower(std::string& error) = 0;
+    /// Registers for power notifications; a Failure saying why when that failed.
+    virtual Result<std::unique_ptr<PowerWatch>> watchPower() = 0;
 };
 
 /// The event probe in use: the real backend unless a ScopedEvents is alive.

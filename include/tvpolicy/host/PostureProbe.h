@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/export.h>
 
 namespace tvpolicy {
@@ -31,13 +32,7 @@ class TVPOLICY_API PostureProbe {
 public:
     /// A value, or the reason there is none (never both).
     template <typename T>
-    struct Fact {
-        std::optional<T> value;
-        std::string error;
-
-        static Fact failed(std::string why) { return Fact{std::nullopt, std::move(why)}; }
-        static Fact of(T found) { return Fact{std::move(found), std::string()}; }
-    };
+    using Fact = Result<T>;
 
     /// A service manager's unit as the manager reports it.
     struct UnitState {

@@ -105,10 +105,9 @@ std::size_t countOf(const PlistValue& array) { return array.items.size(); }
 std::vector<InstalledApplication> applicationsFromProfiler(const std::string& xml, std::ostream& out, std::ostream& err)
 {
     std::vector<InstalledApplication> applications;
-    std::string error;
-    std::optional<PlistValue> root = parsePropertyList(xml, error);
+    Result<PlistValue> root = parsePropertyList(xml);
     if (!root) {
-        err << error << '\n';
+        err << root.error() << '\n';
         return applications;
     }
     if (root->type != PlistValue::Type::Array) {

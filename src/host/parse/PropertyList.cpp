@@ -1,5 +1,7 @@
 #include "host/parse/PropertyList.h"
 
+#include <optional>
+
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
@@ -92,18 +94,16 @@ std::string PlistValue::stringAt(const std::string& key) const
     return value != nullptr && value->type == Type::String ? value->text : std::string();
 }
 
-std::optional<PlistValue> parsePropertyList(const std::string& text, std::string& error)
+Result<PlistValue> parsePropertyList(const std::string& text)
 {
     FirstFatalError errors;
     xml::DocumentPtr document = xml::parseDocument(text, {"property list", false}, errors);
     if (!errors.message.empty() || !document || document->getDocumentElement() == nullptr) {
-        error = errors.message.empty() ? "not an XML document" : errors.message;
-        return std::nullopt;
+        return Failure{errors.message.empty() ? "not an XML document" : errors.message};
     }
     const DOMNode* root = document->getDocumentElement();
     if (!xml::sameName(xml::localNameOf(root), u"plist")) {
-        error = "the root element is not plist";
-        return std::nullopt;
+        return Failure{"the root element is not plist"};
     }
     const DOMNode* first = nullptr;
     xml::forEachChildElement(root, [&first](const XMLCh*, const DOMNode* child) {
@@ -112,8 +112,7 @@ std::optional<PlistValue> parsePropertyList(const std::string& text, std::string
         }
     });
     if (first == nullptr) {
-        error = "the property list is empty";
-        return std::nullopt;
+        return Failure{"the property list is empty"};
     }
     return valueOf(first);
 }

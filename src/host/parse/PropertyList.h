@@ -1,9 +1,10 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <tvpolicy/base/Result.h>
 
 namespace tvpolicy::parse {
 
@@ -29,6 +30,6 @@ struct PlistValue {
 /// Parses an XML property list with the library's hardened reader (no external DTD or entity
 /// is read, nesting is bounded). The value of the root `plist` element, or nothing with
 /// `error` set when the document is not a well-formed property list.
-std::optional<PlistValue> parsePropertyList(const std::string& text, std::string& error);
+Result<PlistValue> parsePropertyList(const std::string& text);
 
 }  // namespace tvpolicy::parse

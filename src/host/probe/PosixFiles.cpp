@@ -20,20 +20,20 @@ bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text)
     return fd.valid() && readBounded(fd.get(), limit, text) != ReadEnd::Failed;
 }
 
-bool readText(const std::string& path, std::size_t limit, std::string& text, std::string& error)
+Result<std::string> readText(const std::string& path, std::size_t limit)
 {
+    std::string text;
     if (readAt(AT_FDCWD, path.c_str(), limit, text)) {
-        return true;
+        return text;
     }
-    error = std::strerror(errno);
-    return false;
+    return Failure{std::strerror(errno)};
 }
 
 PostureProbe::Fact<PostureProbe::FileStatus> statFile(const std::string& path)
 {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) {
-        return PostureProbe::Fact<PostureProbe::FileStatus>::failed(std::strerror(errno));
+        return PostureProbe::Fact<PostureProbe::FileStatus>(Failure{std::strerror(errno)});
     }
     PostureProbe::FileStatus found;
     found.uid = status.st_uid;
@@ -41,7 +41,7 @@ PostureProbe::Fact<PostureProbe::FileStatus> statFile(const std::string& path)
     found.mode = static_cast<unsigned>(status.st_mode) & 07777u;
     found.owner = userNameOf(status.st_uid);
     found.group = groupNameOf(status.st_gid);
-    return PostureProbe::Fact<PostureProbe::FileStatus>::of(found);
+    return PostureProbe::Fact<PostureProbe::FileStatus>(found);
 }
 
 }  // namespace tvpolicy::probe

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/host/PostureProbe.h>
 
 namespace tvpolicy::probe {
@@ -13,9 +14,9 @@ namespace tvpolicy::probe {
 /// blocking.
 bool readAt(int dirFd, const char* path, std::size_t limit, std::string& text);
 
-/// Like readAt from the current directory, with the reason in words when it fails
-/// ("No such file or directory").
-bool readText(const std::string& path, std::size_t limit, std::string& text, std::string& error);
+/// Like readAt from the current directory: the text, or why it could not be read ("No such
+/// file or directory").
+Result<std::string> readText(const std::string& path, std::size_t limit);
 
 /// Owner, group and mode of the file at `path` (a path of this machine, links followed), with
 /// the names the user and group databases give.

@@ -14,13 +14,13 @@ std::unique_ptr<EventProbe::AddressWatch> DarwinEventProbe::watchAddresses()
     return watch;
 }
 
-std::unique_ptr<EventProbe::PowerWatch> DarwinEventProbe::watchPower(std::string& error)
+Result<std::unique_ptr<EventProbe::PowerWatch>> DarwinEventProbe::watchPower()
 {
     auto watch = std::make_unique<darwin::DarwinPowerWatch>();
-    if (!watch->open(error)) {
-        return nullptr;
+    if (auto opened = watch->open(); !opened) {
+        return Failure{opened.error()};
     }
-    return watch;
+    return std::unique_ptr<PowerWatch>(std::move(watch));
 }
 
 EventProbe& systemEvents()

@@ -10,7 +10,7 @@ namespace tvpolicy {
 class DarwinEventProbe : public EventProbe {
 public:
     std::unique_ptr<AddressWatch> watchAddresses() override;
-    std::unique_ptr<PowerWatch> watchPower(std::string& error) override;
+    Result<std::unique_ptr<PowerWatch>> watchPower() override;
 };
 
 }  // namespace tvpolicy

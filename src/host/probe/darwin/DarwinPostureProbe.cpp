@@ -25,24 +25,24 @@ public:
     {
         std::size_t size = 0;
         if (::sysctlbyname(name.c_str(), nullptr, &size, nullptr, 0) != 0) {
-            return Fact<std::string>::failed(errno == ENOENT ? "no such parameter" : std::strerror(errno));
+            return Fact<std::string>(Failure{errno == ENOENT ? "no such parameter" : std::strerror(errno)});
         }
         std::vector<char> value(size + 1, '\0');
         if (::sysctlbyname(name.c_str(), value.data(), &size, nullptr, 0) != 0) {
-            return Fact<std::string>::failed(std::strerror(errno));
+            return Fact<std::string>(Failure{std::strerror(errno)});
         }
         // Numbers come as 4 or 8 bytes in the host's order, texts with their terminating NUL.
         if (size == sizeof(std::int32_t) && value[size - 1] != '\0') {
             std::int32_t number = 0;
             std::memcpy(&number, value.data(), sizeof number);
-            return Fact<std::string>::of(std::to_string(number) + "\n");
+            return Fact<std::string>(std::to_string(number) + "\n");
         }
         if (size == sizeof(std::int64_t) && value[size - 1] != '\0') {
             std::int64_t number = 0;
             std::memcpy(&number, value.data(), sizeof number);
-            return Fact<std::string>::of(std::to_string(number) + "\n");
+            return Fact<std::string>(std::to_string(number) + "\n");
         }
-        return Fact<std::string>::of(std::string(value.data()) + "\n");
+        return Fact<std::string>(std::string(value.data()) + "\n");
     }
 
     Fact<FileStatus> fileStatus(const std::string& path) const override

@@ -11,17 +11,15 @@ static_assert(kIOMessageSystemWillSleep == EventProbe::systemWillSleep, "system-
 static_assert(kIOMessageSystemWillPowerOn == EventProbe::systemWillPowerOn, "will-power-on message");
 static_assert(kIOMessageSystemHasPoweredOn == EventProbe::systemHasPoweredOn, "has-powered-on message");
 
-bool DarwinPowerWatch::open(std::string& error)
+Result<void> DarwinPowerWatch::open()
 {
     if (!waiter_.valid()) {
-        error = "cannot create a run-loop source";
-        return false;
+        return Failure{"cannot create a run-loop source"};
     }
     if (!connection_.open(this, &DarwinPowerWatch::callback)) {
-        error = "the root power domain refused the registration";
-        return false;
+        return Failure{"the root power domain refused the registration"};
     }
-    return true;
+    return {};
 }
 
 EventProbe::Wake DarwinPowerWatch::wait(std::chrono::milliseconds timeout, std::vector<EventProbe::PowerEvent>& events)

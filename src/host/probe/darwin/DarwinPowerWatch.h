@@ -18,7 +18,7 @@ namespace tvpolicy::darwin {
 class DarwinPowerWatch : public EventProbe::PowerWatch {
 public:
     /// Registers; false, with `error` set, when the system refused.
-    bool open(std::string& error);
+    Result<void> open();
 
     EventProbe::Wake wait(std::chrono::milliseconds timeout, std::vector<EventProbe::PowerEvent>& events) override;
     void allow(const EventProbe::PowerEvent& event) override;

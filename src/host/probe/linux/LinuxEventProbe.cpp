@@ -187,30 +187,26 @@ const char* const logindManager = "org.freedesktop.login1.Manager";
 class LogindPowerWatch : public EventProbe::PowerWatch {
 public:
     // Connects, subscribes to PrepareForSleep and takes the first delay inhibitor.
-    bool open(std::string& error)
+    Result<void> open()
     {
         wake_.reset(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
         if (!wake_.valid()) {
-            error = std::string("cannot create an event descriptor: ") + std::strerror(errno);
-            return false;
+            return Failure{std::string("cannot create an event descriptor: ") + std::strerror(errno)};
         }
         if (!bus_.connected()) {
-            error = "logind cannot be reached: " + bus_.lastError();
-            return false;
+            return Failure{"logind cannot be reached: " + bus_.lastError()};
         }
         sd_bus_slot* slot = nullptr;
         int result = sd_bus_match_signal(bus_.handle(), &slot, logindName, logindPath, logindManager, "PrepareForSleep",
                                          &LogindPowerWatch::onPrepareForSleep, this);
         if (result < 0) {
-            error = std::string("cannot subscribe to PrepareForSleep: ") + std::strerror(-result);
-            return false;
+            return Failure{std::string("cannot subscribe to PrepareForSleep: ") + std::strerror(-result)};
         }
         match_.reset(slot);
         if (!takeInhibitor()) {
-            error = "logind cannot be reached: " + bus_.lastError();
-            return false;
+            return Failure{"logind cannot be reached: " + bus_.lastError()};
         }
-        return true;
+        return {};
     }
 
     EventProbe::Wake wait(std::chrono::milliseconds timeout, std::vector<EventProbe::PowerEvent>& events) override
@@ -302,13 +298,13 @@ std::unique_ptr<EventProbe::AddressWatch> LinuxEventProbe::watchAddresses()
     return watch;
 }
 
-std::unique_ptr<EventProbe::PowerWatch> LinuxEventProbe::watchPower(std::string& error)
+Result<std::unique_ptr<EventProbe::PowerWatch>> LinuxEventProbe::watchPower()
 {
     auto watch = std::make_unique<LogindPowerWatch>();
-    if (!watch->open(error)) {
-        return nullptr;
+    if (auto opened = watch->open(); !opened) {
+        return Failure{opened.error()};
     }
-    return watch;
+    return std::unique_ptr<PowerWatch>(std::move(watch));
 }
 
 EventProbe& systemEvents()

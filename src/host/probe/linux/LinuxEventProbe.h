@@ -9,7 +9,7 @@ namespace tvpolicy {
 class LinuxEventProbe : public EventProbe {
 public:
     std::unique_ptr<AddressWatch> watchAddresses() override;
-    std::unique_ptr<PowerWatch> watchPower(std::string& error) override;
+    Result<std::unique_ptr<PowerWatch>> watchPower() override;
 };
 
 }  // namespace tvpolicy

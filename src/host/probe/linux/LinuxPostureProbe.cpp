@@ -202,25 +202,25 @@ PostureProbe::Fact<PostureProbe::UnitState> LinuxPostureProbe::unitState(const s
 {
     linux_bus::SystemBus bus;
     if (!bus.connected()) {
-        return Fact<UnitState>::failed("the system bus does not answer");
+        return Fact<UnitState>(Failure{"the system bus does not answer"});
     }
     std::string error;
     std::optional<std::string> path = unitPath(bus, unit, error);
     if (!path) {
-        return Fact<UnitState>::failed("not found (" + error + ")");
+        return Fact<UnitState>(Failure{"not found (" + error + ")"});
     }
     std::optional<std::string> load = bus.stringProperty(systemd, *path, unitInterface, "LoadState");
     if (load && *load == "not-found") {
-        return Fact<UnitState>::failed("not found");
+        return Fact<UnitState>(Failure{"not found"});
     }
     std::optional<std::string> active = bus.stringProperty(systemd, *path, unitInterface, "ActiveState");
     if (!active) {
-        return Fact<UnitState>::failed("the service manager did not tell the state: " + bus.lastError());
+        return Fact<UnitState>(Failure{"the service manager did not tell the state: " + bus.lastError()});
     }
     UnitState state;
     state.activeState = *active;
     state.unitFileState = bus.stringProperty(systemd, *path, unitInterface, "UnitFileState").value_or("");
-    return Fact<UnitState>::of(state);
+    return Fact<UnitState>(state);
 }
 
 PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> LinuxPostureProbe::listeningSockets(
@@ -228,7 +228,7 @@ PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> LinuxPostureProbe
 {
     bool tcp = protocol == "tcp";
     if (!tcp && protocol != "udp") {
-        return Fact<std::vector<ListeningSocket>>::failed("unknown protocol " + protocol);
+        return Fact<std::vector<ListeningSocket>>(Failure{"unknown protocol " + protocol});
     }
     std::vector<ListeningSocket> found;
     for (int family : {AF_INET, AF_INET6}) {
@@ -236,7 +236,7 @@ PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> LinuxPostureProbe
         std::string error;
         std::uint32_t states = 1u << (tcp ? tcpListen : tcpClose);
         if (!dumpSockets(family, tcp ? IPPROTO_TCP : IPPROTO_UDP, states, sockets, error)) {
-            return Fact<std::vector<ListeningSocket>>::failed(error);
+            return Fact<std::vector<ListeningSocket>>(Failure{error});
         }
         for (const auto& socket : sockets) {
             if (socket.state == (tcp ? tcpListen : tcpClose) && socket.localPort != 0) {
@@ -244,7 +244,7 @@ PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> LinuxPostureProbe
             }
         }
     }
-    return Fact<std::vector<ListeningSocket>>::of(std::move(found));
+    return Fact<std::vector<ListeningSocket>>(std::move(found));
 }
 
 PostureProbe::Fact<std::vector<PostureProbe::FilterChain>> LinuxPostureProbe::packetFilter() const
@@ -252,40 +252,37 @@ PostureProbe::Fact<std::vector<PostureProbe::FilterChain>> LinuxPostureProbe::pa
     std::string json;
     std::string error;
     if (!listRuleset(json, error)) {
-        return Fact<std::vector<FilterChain>>::failed(error);
+        return Fact<std::vector<FilterChain>>(Failure{error});
     }
     std::vector<FilterChain> chains;
     if (!parse::baseChainsFromNftJson(json, chains)) {
-        return Fact<std::vector<FilterChain>>::failed("the packet filter's ruleset is not the JSON expected");
+        return Fact<std::vector<FilterChain>>(Failure{"the packet filter's ruleset is not the JSON expected"});
     }
-    return Fact<std::vector<FilterChain>>::of(std::move(chains));
+    return Fact<std::vector<FilterChain>>(std::move(chains));
 }
 
 PostureProbe::Fact<std::string> LinuxPostureProbe::mountTable() const
 {
-    std::string text;
-    std::string error;
-    if (!probe::readText(currentHost().systemPath("/proc/self/mountinfo"), mountTableLimit, text, error)) {
-        return Fact<std::string>::failed("the mount table cannot be read: " + error);
+    auto text = probe::readText(currentHost().systemPath("/proc/self/mountinfo"), mountTableLimit);
+    if (!text) {
+        return Fact<std::string>(Failure{"the mount table cannot be read: " + text.error()});
     }
-    return Fact<std::string>::of(std::move(text));
+    return Fact<std::string>(std::move(text).value());
 }
 
 PostureProbe::Fact<PostureProbe::BlockDevice> LinuxPostureProbe::blockDevice(const std::string& majorMinor) const
 {
     if (!parse::isDeviceNumber(majorMinor)) {
-        return Fact<BlockDevice>::failed("no block device " + majorMinor);
+        return Fact<BlockDevice>(Failure{"no block device " + majorMinor});
     }
     std::string base = currentHost().systemPath("/sys/dev/block/" + majorMinor);
     struct stat status {};
     if (::stat(base.c_str(), &status) != 0) {
-        return Fact<BlockDevice>::failed("no block device " + majorMinor);
+        return Fact<BlockDevice>(Failure{"no block device " + majorMinor});
     }
     BlockDevice device;
-    std::string text;
-    std::string error;
-    if (probe::readText(base + "/dm/uuid", attributeLimit, text, error)) {
-        device.deviceMapperUuid = parse::sysfsValue(text);
+    if (auto uuid = probe::readText(base + "/dm/uuid", attributeLimit)) {
+        device.deviceMapperUuid = parse::sysfsValue(*uuid);
     }
     std::unique_ptr<DIR, int (*)(DIR*)> slaves(::opendir((base + "/slaves").c_str()), &::closedir);
     if (slaves) {
@@ -294,21 +291,21 @@ PostureProbe::Fact<PostureProbe::BlockDevice> LinuxPostureProbe::blockDevice(con
             if (name == "." || name == "..") {
                 continue;
             }
-            if (probe::readText(base + "/slaves/" + name + "/dev", attributeLimit, text, error)) {
-                std::string number = parse::sysfsValue(text);
+            if (auto dev = probe::readText(base + "/slaves/" + name + "/dev", attributeLimit)) {
+                std::string number = parse::sysfsValue(*dev);
                 if (parse::isDeviceNumber(number)) {
                     device.below.push_back(number);
                 }
             }
         }
     }
-    return Fact<BlockDevice>::of(std::move(device));
+    return Fact<BlockDevice>(std::move(device));
 }
 
 PostureProbe::Fact<std::string> LinuxPostureProbe::kernelParameter(const std::string& name) const
 {
     if (!isParameterName(name)) {
-        return Fact<std::string>::failed("no such parameter");
+        return Fact<std::string>(Failure{"no such parameter"});
     }
     std::string path = "/proc/sys/" + name;
     for (std::size_t i = 10; i < path.size(); ++i) {
@@ -316,12 +313,11 @@ PostureProbe::Fact<std::string> LinuxPostureProbe::kernelParameter(const std::st
             path[i] = '/';
         }
     }
-    std::string text;
-    std::string error;
-    if (!probe::readText(currentHost().systemPath(path), attributeLimit, text, error)) {
-        return Fact<std::string>::failed(error == std::strerror(ENOENT) ? "no such parameter" : error);
+    auto text = probe::readText(currentHost().systemPath(path), attributeLimit);
+    if (!text) {
+        return Fact<std::string>(Failure{text.error() == std::strerror(ENOENT) ? "no such parameter" : text.error()});
     }
-    return Fact<std::string>::of(std::move(text));
+    return Fact<std::string>(std::move(text).value());
 }
 
 PostureProbe::Fact<PostureProbe::FileStatus> LinuxPostureProbe::fileStatus(const std::string& path) const
