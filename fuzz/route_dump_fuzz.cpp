@@ -1,7 +1,7 @@
 // Datagrams of a routing netlink dump of links and addresses, and the interface list built from
 // them: every link and address takes a whole message, every address of a listed link gives one
 // entry after the links' own, every entry carries its interface's hardware and link state, and
-// every address text reads back as an address of its family.
+// every address text reads back as an address of its family; a request read back is no reply.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -56,6 +56,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(entry.hardware && entry.link && readsBack(entry));
         require(entry.hardware->macAddress.empty() || entry.hardware->macAddress.size() == 17);
         require(!entry.link->active || entry.link->error == 0);
+    }
+    // A request is no reply: read as one, it adds nothing.
+    for (std::uint16_t type : {tvpolicy::parse::route::getLink, tvpolicy::parse::route::getAddress}) {
+        auto request = tvpolicy::parse::routeDumpRequest(type, static_cast<std::uint32_t>(size));
+        tvpolicy::parse::RouteDump echo;
+        tvpolicy::parse::readRouteDump(request.data(), request.size(), static_cast<std::uint32_t>(size), echo);
+        require(echo.links.empty() && echo.addresses.empty() && !echo.finished());
     }
     return 0;
 }
