@@ -1,13 +1,18 @@
 // The interface inventory of a namespace with 50 veth pairs (100 interfaces, 50 addresses)
-// against `ip -j addr` listing the same namespace, in the same run.
+// against `ip -j addr` listing the same namespace, in the same run: the library's inventory in
+// this process, and `tvpolicy interfaces --json --no-guests` as a whole process, each taking
+// turns with `ip -j addr` started as a whole process (the namespace's own sysfs is mounted for
+// both, as `ip netns exec` does).
 #include <benchmark/benchmark.h>
 
+#include <chrono>
 #include <fstream>
 #include <memory>
 
 #include <tvpolicy/host/NetworkInterface.h>
 #include <tvpolicy/host/Utilities.h>
 
+#include "SpawnQuietly.h"
 #include "support/NetNamespace.h"
 
 namespace {
@@ -76,5 +81,52 @@ void BM_IpJsonAddr(benchmark::State& state)
     state.counters["bytes"] = static_cast<double>(bytes);
 }
 BENCHMARK(BM_IpJsonAddr)->Unit(benchmark::kMillisecond);
+
+void BM_GetInstances_vs_ip(benchmark::State& state)
+{
+    if (fiftyPairs(state) == nullptr) {
+        return;
+    }
+    std::vector<double> inventory;
+    bench::ProcessFigures ip;
+    for (auto _ : state) {
+        auto start = std::chrono::steady_clock::now();
+        com::torvane::api::NetworkInterfaceMap map;
+        NetworkInterface::getInstances(map);
+        NetworkInterface::freeInstances(map);
+        inventory.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        if (bench::timeProcess({"ip", "-j", "addr"}, ip) != 0) {
+            state.SkipWithError("ip -j addr failed");
+            break;
+        }
+    }
+    bench::ProcessFigures ours;
+    ours.seconds = inventory;
+    state.counters["getInstances_ms"] = ours.medianMs();
+    state.counters["ip_ms"] = ip.medianMs();
+    state.counters["getInstances_to_ip"] = ours.medianMs() / ip.medianMs();
+}
+BENCHMARK(BM_GetInstances_vs_ip)->Unit(benchmark::kMillisecond)->Iterations(41);
+
+void BM_InterfacesCommand_vs_ip(benchmark::State& state)
+{
+    if (fiftyPairs(state) == nullptr) {
+        return;
+    }
+    bench::ProcessFigures command;
+    bench::ProcessFigures ip;
+    for (auto _ : state) {
+        if (bench::timeProcess({TVPOLICY_CLI, "interfaces", "--json", "--no-guests"}, command) != 0 ||
+            bench::timeProcess({"ip", "-j", "addr"}, ip) != 0) {
+            state.SkipWithError("a program failed");
+            break;
+        }
+    }
+    state.counters["tvpolicy_ms"] = command.medianMs();
+    state.counters["ip_ms"] = ip.medianMs();
+    state.counters["tvpolicy_to_ip"] = command.medianMs() / ip.medianMs();
+    state.counters["cpu_tvpolicy_to_ip"] = command.medianCpuMs() / ip.medianCpuMs();
+}
+BENCHMARK(BM_InterfacesCommand_vs_ip)->Unit(benchmark::kMillisecond)->Iterations(41);
 
 }  // namespace

@@ -48,9 +48,9 @@ bool qualifies(const NetworkProbe::AddressEntry& entry, const NetworkProbe::Hard
     return false;
 }
 
-bool linkUp(const NetworkProbe& network, const std::string& name)
+bool linkUp(const NetworkProbe& network, const NetworkProbe::AddressEntry& entry)
 {
-    NetworkProbe::LinkState link = network.linkState(name.substr(0, 15));
+    NetworkProbe::LinkState link = entry.link ? *entry.link : network.linkState(entry.name.substr(0, 15));
     if (link.error != 0) {
         std::fprintf(stderr, "Error: %s\n", std::strerror(link.error));
         return false;
@@ -66,7 +66,8 @@ std::optional<NetworkProbe::Hardware> admittedHardware(const NetworkProbe& netwo
     if (entry.family != NetworkProbe::Family::IPv4 && !entry.hardwareCandidate) {
         return std::nullopt;
     }
-    std::optional<NetworkProbe::Hardware> hardware;
+    // What the backend read with the list needs no lookup.
+    std::optional<NetworkProbe::Hardware> hardware = entry.hardware;
     for (int attempt = 0; attempt < lookupAttempts && !hardware; ++attempt) {
         hardware = network.interfaceHardware(entry.name);
         if (!hardware) {
@@ -116,7 +117,7 @@ void NetworkInterface::getInstances(NetworkInterfaceMap& interfaces)
         if (!hardware) {
             continue;
         }
-        bool up = linkUp(network, entry.name);
+        bool up = linkUp(network, entry);
         // An interface has several entries; the first that qualifies wins.
         const std::string& key = hardware->macAddress.empty() ? entry.name : hardware->macAddress;
         if (interfaces.count(key) != 0) {

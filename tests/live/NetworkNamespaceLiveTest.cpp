@@ -1,15 +1,23 @@
 // The inventory, the interface report and the query text of interfaces that the test makes in
 // a network namespace of its own: veth pairs with chosen addresses (one pair down) and a tun
-// point-to-point interface held open by a process.
+// point-to-point interface held open by a process. The list read from netlink is also held
+// against what getifaddrs and /sys/class/net say of the same interfaces.
 #include <tvpolicy/host/Machine.h>
 #include <tvpolicy/host/NetworkInterface.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <sstream>
+
+#include <linux/if_arp.h>
+#include <linux/if_packet.h>
+#include <sys/socket.h>
 
 #include <nlohmann/json.hpp>
 
+#include "host/probe/InterfaceAddressList.h"
+#include "host/probe/linux/LinuxNetworkProbe.h"
 #include "support/ChildProcess.h"
 #include "support/NetNamespace.h"
 #include "support/RunCli.h"
@@ -18,6 +26,7 @@ namespace {
 
 using com::torvane::api::NetworkInterface;
 using testing_support::NetNamespace;
+using tvpolicy::NetworkProbe;
 
 // Creates tun7 and holds it open: a tun interface is RUNNING only while a process holds it.
 const char* const tunHolder =
@@ -157,6 +166,69 @@ TEST_F(NamespaceInterfaces, TunnelsNobodyHoldsAreNotRunningAndLeaveTheInventory)
         return text;
     });
     EXPECT_EQ(keys, "02:00:00:00:0A:01 02:00:00:00:0B:01 02:00:00:00:0C:01 02:00:00:00:0D:01 ");
+}
+
+// The link-level entry of an Ethernet interface, as getifaddrs shows it.
+bool ethernetLink(const ifaddrs& entry)
+{
+    return entry.ifa_addr != nullptr && entry.ifa_addr->sa_family == AF_PACKET &&
+           reinterpret_cast<const sockaddr_ll*>(entry.ifa_addr)->sll_hatype == ARPHRD_ETHER;
+}
+
+std::string line(const NetworkProbe::AddressEntry& e)
+{
+    std::ostringstream out;
+    out << e.name << " flags " << std::hex << e.flags << std::dec << " family " << static_cast<int>(e.family) << " "
+        << e.address << (e.hardwareCandidate ? " candidate" : "");
+    return out.str();
+}
+
+std::string details(const NetworkProbe::Hardware& hardware, const NetworkProbe::LinkState& link)
+{
+    return "[" + hardware.macAddress + " " + hardware.medium + " " + (link.active ? "active" : "inactive") + " " +
+           std::to_string(link.error) + "]";
+}
+
+TEST_F(NamespaceInterfaces, TheNetlinkListIsWhatGetifaddrsAndSysfsSay)
+{
+    // Besides the ports up, down and without a carrier (vd's peer is down) and the tunnel: an
+    // alias, whose label names no link, and a bridge without ports.
+    ASSERT_TRUE(
+        ns.exec("ip addr add 10.77.0.20/24 dev va label va:1 && ip link add br0 address 02:00:00:00:0e:01 type bridge "
+                "&& ip link set br0 up"));
+    ASSERT_TRUE(ns.waitFor("ip -o link show br0 | grep -q NO-CARRIER"));
+    std::string report = ns.inChild([] {
+        tvpolicy::LinuxNetworkProbe probe;
+        std::optional<std::vector<NetworkProbe::AddressEntry>> netlink = probe.interfaceAddresses();
+        ifaddrs* raw = nullptr;
+        if (!netlink || ::getifaddrs(&raw) != 0) {
+            return std::string("unreadable");
+        }
+        std::vector<NetworkProbe::AddressEntry> reference =
+            tvpolicy::probe::addressEntries(raw, AF_PACKET, &ethernetLink);
+        ::freeifaddrs(raw);
+        std::string differences;
+        for (std::size_t i = 0; i < std::max(netlink->size(), reference.size()); ++i) {
+            std::string ours = i < netlink->size() ? line((*netlink)[i]) : "-";
+            std::string theirs = i < reference.size() ? line(reference[i]) : "-";
+            if (ours != theirs) {
+                differences += "entry " + std::to_string(i) + ": netlink " + ours + ", getifaddrs " + theirs + "\n";
+            }
+            if (i >= netlink->size()) {
+                continue;
+            }
+            const NetworkProbe::AddressEntry& entry = (*netlink)[i];
+            std::optional<NetworkProbe::Hardware> sysfs = probe.interfaceHardware(entry.name);
+            std::string read = details(*entry.hardware, *entry.link);
+            std::string looked = sysfs ? details(*sysfs, probe.linkState(entry.name)) : "[lookup failed]";
+            if (read != looked) {
+                differences += entry.name + ": netlink " + read + ", sysfs " + looked + "\n";
+            }
+        }
+        return differences.empty() ? "same " + std::to_string(netlink->size()) + " entries" : differences;
+    });
+    // Seven links; the addresses of lo, va (three and an alias) and tun7.
+    EXPECT_EQ(report, "same 14 entries");
 }
 
 }  // namespace

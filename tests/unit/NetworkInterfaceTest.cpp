@@ -190,6 +190,30 @@ TEST(NetworkInventory, ALinkThatCannotBeReadIsDownWithAnError)
     EXPECT_FALSE(inventory.map.begin()->second->isUp());
 }
 
+TEST(NetworkInventory, HardwareAndLinksReadWithTheListAreTakenWithoutLookups)
+{
+    DescribedNetwork d;
+    // What a lookup would say, which the entries' own details overrule.
+    d.wired("eth0", "00:1B:63:00:00:01", false);
+    d.wired("tun0", "", true);
+    d.link("eth0", ethernetUp);
+    d.ipv4("eth0", ethernetUp, "10.0.0.5");
+    d.ipv4("tun0", tunnelUp, "10.8.0.1");
+    for (auto& entry : *d.net.addresses) {
+        bool eth = entry.name == "eth0";
+        entry.hardware = tvpolicy::NetworkProbe::Hardware{eth ? "02:00:00:00:00:0E" : "", eth ? "Wired" : ""};
+        entry.link = tvpolicy::NetworkProbe::LinkState{eth, eth ? 0 : ENOENT};
+    }
+    testing::internal::CaptureStderr();
+    Inventory inventory;
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Error: No such file or directory\n");
+    EXPECT_EQ(inventory.keys(), (std::vector<std::string>{"02:00:00:00:00:0E", "tun0"}));
+    EXPECT_TRUE(inventory.map["02:00:00:00:00:0E"]->isUp());
+    EXPECT_EQ(ipv4(inventory.map["02:00:00:00:00:0E"]), std::vector<std::string>{"10.0.0.5"});
+    EXPECT_FALSE(inventory.map["tun0"]->isUp());
+    EXPECT_TRUE(d.net.lookups.empty());
+}
+
 TEST(NetworkInventory, WirelessInterfacesCarryTheNetworkAndANormalisedBssid)
 {
     for (bool managerKnowsBssid : {true, false}) {

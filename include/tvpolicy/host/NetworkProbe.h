@@ -19,22 +19,6 @@ class TVPOLICY_API NetworkProbe {
 public:
     enum class Family { IPv4, IPv6, Link, Other };
 
-    /// One entry of the system's interface address list (an interface appears once per
-    /// address, and once more for its link level).
-    struct AddressEntry {
-        std::string name;
-        /// The interface flags as the system reports them (IFF_UP 0x1, IFF_LOOPBACK 0x8,
-        /// IFF_POINTOPOINT 0x10, IFF_RUNNING 0x40, IFF_NOARP 0x80).
-        unsigned int flags = 0;
-        Family family = Family::Other;
-        /// The address in text form for IPv4 and IPv6 entries; empty for the others.
-        std::string address;
-        /// The entry stands for an interface's Ethernet hardware, which makes it a candidate of
-        /// the inventory whatever its family: on Linux the link-level entry of an interface of
-        /// Ethernet hardware type.
-        bool hardwareCandidate = false;
-    };
-
     /// What the hardware lookup of one interface found.
     struct Hardware {
         /// "00:1B:63:AB:CD:EF" form; empty when the interface has no hardware address.
@@ -49,6 +33,28 @@ public:
     struct LinkState {
         bool active = false;
         int error = 0;
+    };
+
+    /// One entry of the system's interface address list (an interface appears once per
+    /// address, and once more for its link level).
+    struct AddressEntry {
+        std::string name;
+        /// The interface flags as the system reports them (IFF_UP 0x1, IFF_LOOPBACK 0x8,
+        /// IFF_POINTOPOINT 0x10, IFF_RUNNING 0x40, IFF_NOARP 0x80).
+        unsigned int flags = 0;
+        Family family = Family::Other;
+        /// The address in text form for IPv4 and IPv6 entries; empty for the others.
+        std::string address;
+        /// The entry stands for an interface's Ethernet hardware, which makes it a candidate of
+        /// the inventory whatever its family: on Linux the link-level entry of an interface of
+        /// Ethernet hardware type.
+        bool hardwareCandidate = false;
+        /// The hardware and link state of the interface named `name`, when the backend read
+        /// them together with the list (on Linux, from the same netlink dump); the inventory
+        /// then asks interfaceHardware and linkState nothing about this entry. Empty when it
+        /// is to ask them.
+        std::optional<Hardware> hardware = std::nullopt;
+        std::optional<LinkState> link = std::nullopt;
     };
 
     /// The Wi-Fi interface and the network it is on; empty texts when not associated.

@@ -47,6 +47,14 @@ std::string sysfsMacAddress(const std::string& raw)
     if (i != text.size() && text[i] != ':') {
         return std::string();
     }
+    return macAddressText(octets, sizeof octets);
+}
+
+std::string macAddressText(const unsigned char* octets, std::size_t count)
+{
+    if (count < 6) {
+        return std::string();
+    }
     char formatted[18];
     std::snprintf(formatted, sizeof formatted, "%02X:%02X:%02X:%02X:%02X:%02X", octets[0], octets[1], octets[2],
                   octets[3], octets[4], octets[5]);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,10 @@ namespace tvpolicy::parse {
 /// ("00:1b:63:ab:cd:ef\n"): its first six octets, upper case. Empty when the text holds fewer
 /// than six octets or is not a colon-separated hexadecimal address.
 std::string sysfsMacAddress(const std::string& raw);
+
+/// The MAC address in "00:1B:63:AB:CD:EF" form from a hardware address's bytes: its first six
+/// octets. Empty when there are fewer than six (as sysfsMacAddress reads such an address).
+std::string macAddressText(const unsigned char* octets, std::size_t count);
 
 /// The domain and search list of a resolv.conf text. "domain" and "search" exclude each other
 /// and the last one in the file wins, as the resolver reads them.

@@ -5,11 +5,7 @@
 #include <memory>
 
 #include <fcntl.h>
-#include <ifaddrs.h>
 #include <linux/if_arp.h>
-#include <linux/if_packet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 #include <tvpolicy/base/Utilities.h>
@@ -18,8 +14,9 @@
 #include <tvpolicy/base/OwnedFd.h>
 #include "host/parse/NetText.h"
 #include "host/parse/ProcText.h"
-#include "host/probe/InterfaceAddressList.h"
+#include "host/parse/RouteInterfaces.h"
 #include "host/probe/linux/NetworkManager.h"
+#include "host/probe/linux/RouteInterfaceDump.h"
 
 namespace tvpolicy {
 
@@ -34,12 +31,25 @@ bool readAttribute(int dir, const char* name, std::string& text)
     return fd.valid() && tvpolicy::readBounded(fd.get(), 256, text) != tvpolicy::ReadEnd::Failed;
 }
 
-bool exists(int dir, const char* name) { return ::faccessat(dir, name, F_OK, 0) == 0; }
+bool exists(int dir, const std::string& name) { return ::faccessat(dir, name.c_str(), F_OK, 0) == 0; }
+
+// Whether the sysfs folder `folder` below `dir` ("" for `dir` itself, else ending in '/') is
+// a Wi-Fi interface's: it has the wireless extensions' folder or the link to its wireless PHY.
+bool wirelessFolder(int dir, const std::string& folder)
+{
+    return exists(dir, folder + "wireless") || exists(dir, folder + "phy80211");
+}
+
+// A name that can be an entry of /sys/class/net.
+bool folderName(const std::string& name)
+{
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos;
+}
 
 // The interface's folder in /sys/class/net, or -1 with errno set.
 int interfaceFolder(const std::string& name)
 {
-    if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos) {
+    if (!folderName(name)) {
         errno = ENODEV;
         return -1;
     }
@@ -64,13 +74,6 @@ std::string resolvConf()
         tvpolicy::readBounded(fd.get(), 64 * 1024, text);
     }
     return text;
-}
-
-// The link-level entry of an interface of Ethernet hardware type.
-bool ethernetLinkEntry(const ifaddrs& entry)
-{
-    return entry.ifa_addr != nullptr && entry.ifa_addr->sa_family == AF_PACKET &&
-           reinterpret_cast<const sockaddr_ll*>(entry.ifa_addr)->sll_hatype == ARPHRD_ETHER;
 }
 
 // The host's DNS domains from the first source that names any: systemd-resolved, else the
@@ -101,7 +104,15 @@ parse::ResolverDomains hostDomains()
 
 std::optional<std::vector<NetworkProbe::AddressEntry>> LinuxNetworkProbe::interfaceAddresses() const
 {
-    return probe::interfaceAddressList(AF_PACKET, &ethernetLinkEntry);
+    // The links and addresses come from netlink; only whether a link is Wi-Fi is not there.
+    std::optional<parse::RouteDump> dump = probe::dumpRouteInterfaces();
+    if (!dump) {
+        return std::nullopt;
+    }
+    Fd net(::open("/sys/class/net", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    return parse::routeInterfaceEntries(*dump, [&net](const std::string& name) {
+        return net.valid() && folderName(name) && wirelessFolder(net.get(), name + "/");
+    });
 }
 
 std::optional<NetworkProbe::Hardware> LinuxNetworkProbe::interfaceHardware(const std::string& name) const
@@ -121,7 +132,7 @@ std::optional<NetworkProbe::Hardware> LinuxNetworkProbe::interfaceHardware(const
     }
     if (!readAttribute(dir.get(), "type", text)) {
         hardware.medium = "Unknown";
-    } else if (exists(dir.get(), "wireless") || exists(dir.get(), "phy80211")) {
+    } else if (wirelessFolder(dir.get(), "")) {
         hardware.medium = "Wireless";
     } else if (parse::sysfsValue(text) == std::to_string(ARPHRD_ETHER)) {
         hardware.medium = "Wired";

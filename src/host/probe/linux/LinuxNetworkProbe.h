@@ -4,8 +4,9 @@
 
 namespace tvpolicy {
 
-/// The network probe of Linux: getifaddrs, /sys/class/net, resolv.conf, and NetworkManager and
-/// systemd-resolved over the system bus.
+/// The network probe of Linux: routing netlink dumps of the links and addresses (with each
+/// link's hardware and link state), /sys/class/net for lookups by name and for Wi-Fi,
+/// resolv.conf, and NetworkManager and systemd-resolved over the system bus.
 class LinuxNetworkProbe : public NetworkProbe {
 public:
     std::optional<std::vector<AddressEntry>> interfaceAddresses() const override;
