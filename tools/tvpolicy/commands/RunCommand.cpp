@@ -23,11 +23,11 @@
 #include "commands/Command.h"
 #include "io/TeeStreamBuf.h"
 #include "io/TerminalText.h"
-#include "policy/BoundedCommandHost.h"
 #include "policy/DescribedHost.h"
 #include "policy/DocumentFile.h"
 #include "policy/PolicyInput.h"
 #include "policy/PolicyNotices.h"
+#include "process/CommandHost.h"
 #include "report/HtmlReport.h"
 #include "report/JunitReport.h"
 #include "report/PolicyReport.h"
@@ -166,7 +166,7 @@ int writeReports(const RunOptions& options, const Json& report, const std::strin
     return exitPassed;
 }
 
-int evaluate(const RunOptions& options, Console& console, const BoundedCommandHost* commands);
+int evaluate(const RunOptions& options, Console& console, const CommandHost* commands);
 
 // Two outputs named alike would overwrite each other: whichever came last would win.
 bool sameFile(const std::string& a, const std::string& b)
@@ -195,8 +195,8 @@ int runPolicy(const RunOptions& options, Console& console)
         }
     }
     if (options.hostDescription.empty()) {
-        BoundedCommandHost bounded(tvpolicy::systemHost(),
-                                   std::chrono::milliseconds(static_cast<long long>(options.commandTimeout * 1000)));
+        CommandGroups groups(std::chrono::seconds(1), commandTimeout(options.commandTimeout));
+        CommandHost bounded(tvpolicy::systemHost(), groups, CommandHost::Stops::endProgram);
         tvpolicy::ScopedHost scope(bounded);
         return evaluate(options, console, &bounded);
     }
@@ -211,7 +211,7 @@ int runPolicy(const RunOptions& options, Console& console)
     return evaluate(options, console, nullptr);
 }
 
-int evaluate(const RunOptions& options, Console& console, const BoundedCommandHost* commands)
+int evaluate(const RunOptions& options, Console& console, const CommandHost* commands)
 {
     const auto started = std::chrono::system_clock::now();
     const auto clock = std::chrono::steady_clock::now();
@@ -277,7 +277,7 @@ int evaluate(const RunOptions& options, Console& console, const BoundedCommandHo
     }
     Json report = reportPolicy(*policy, passed, progress.announced(), notices);
     if (commands != nullptr) {
-        commands->explainTimeouts(report);
+        explainTimeouts(report, commands->timeouts());
     }
     report["exitStatus"] = status;
     report["run"] = runRecord(started, clock);
@@ -315,12 +315,7 @@ CommandAction setupRun(CLI::App& app)
     app.add_option("--host", options->hostDescription,
                    "Evaluate against the host that the JSON document FILE describes, not this computer")
         ->option_text("FILE");
-    app.add_option("--command-timeout", options->commandTimeout,
-                   "End a command that a check runs (VersionFromScript), with its process group, after S seconds; "
-                   "the check then fails saying so")
-        ->option_text("S")
-        ->capture_default_str()
-        ->check(CLI::Range(0.001, 86400.0));
+    addCommandTimeout(app, options->commandTimeout);
     app.add_option("--max-size", options->maxSizeMB, "Refuse a policy larger than N MB before reading it")
         ->capture_default_str()
         ->check(CLI::Range(std::size_t{1}, std::size_t{4096}));

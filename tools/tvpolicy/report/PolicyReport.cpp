@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <iterator>
 #include <map>
 
@@ -585,6 +586,38 @@ nlohmann::ordered_json runRecord(std::chrono::system_clock::time_point started,
             {"hostName", Machine::getHostName()},
             {"os", Machine::getOSString()},
             {"osVersion", Machine::getOSVersion()}};
+}
+
+void explainTimeouts(Json& report, const std::vector<CommandTimeout>& timeouts)
+{
+    if (timeouts.empty()) {
+        return;
+    }
+    std::function<void(Json&)> visit = [&](Json& node) {
+        if (node.is_array()) {
+            for (auto& child : node) {
+                visit(child);
+            }
+            return;
+        }
+        if (!node.is_object()) {
+            return;
+        }
+        if (node.value("element", std::string()) == "VersionFromScript" && node.contains("attributes")) {
+            std::string script = node["attributes"].value("script", std::string());
+            for (const CommandTimeout& timeout : timeouts) {
+                if (timeout.command == script) {
+                    node["cause"] = timeout.why;
+                }
+            }
+        }
+        for (const char* key : {"items", "sections", "tasks", "terms"}) {
+            if (node.contains(key)) {
+                visit(node[key]);
+            }
+        }
+    };
+    visit(report);
 }
 
 }  // namespace tvpolicy::cli
