@@ -110,15 +110,21 @@ std::vector<std::string> linesOf(const std::string& text)
     return lines;
 }
 
+// The form of the results: --format, else JSON with --json or an --output FILE named *.json.
+std::string formatOf(const RunOptions& options)
+{
+    if (!options.format.empty()) {
+        return options.format;
+    }
+    bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
+    return options.json || jsonName ? "json" : "text";
+}
+
 // Where the results go and in which form: a file (atomically) or standard output.
 int deliver(const RunOptions& options, const Json& report, const std::string& trace, Console& console)
 {
     bool toFile = !options.output.empty();
-    std::string format = options.format;
-    if (format.empty()) {
-        bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
-        format = options.json || (toFile && jsonName) ? "json" : "text";
-    }
+    std::string format = formatOf(options);
     TextStyle style{!toFile && colourWanted(console.outFd(), options.noColor), options.trace || console.libraryShown()};
     std::ostringstream body;
     if (format == "json") {
@@ -167,6 +173,31 @@ int writeReports(const RunOptions& options, const Json& report, const std::strin
 }
 
 int evaluate(const RunOptions& options, Console& console, const CommandHost* commands);
+
+// A policy file that could not be read, for a reader of JSON results: the cause that standard
+// error gave first, and the library's own message (its advice about network settings
+// included, since it is the library's) in a field of its own. Text results add nothing to
+// what standard error said.
+int reportUnreadable(const RunOptions& options, const PolicyReadFailure& failure, int status, Console& console)
+{
+    if (formatOf(options) != "json") {
+        return status;
+    }
+    Json report = {{"policy", nullptr}, {"result", "ERROR"}, {"passed", false}, {"error", failure.cause}};
+    report["libraryMessage"] = failure.libraryMessage.empty() ? Json(nullptr) : Json(failure.libraryMessage);
+    report["exitStatus"] = status;
+    report["source"] = {{"path", options.source}};
+    std::string text = report.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    if (options.output.empty()) {
+        console.out() << text;
+        return status;
+    }
+    std::string why;
+    if (!writeFileAtomically(options.output, text, why)) {
+        console.err() << "tvpolicy run: the results were not saved: " << why << '\n';
+    }
+    return status;
+}
 
 // Two outputs named alike would overwrite each other: whichever came last would win.
 bool sameFile(const std::string& a, const std::string& b)
@@ -219,11 +250,12 @@ int evaluate(const RunOptions& options, Console& console, const CommandHost* com
 
     std::string bytes;
     int unread = exitUsage;
-    std::unique_ptr<Policy> policy = isAddress(options.source)
-                                         ? fetchPolicy(options, console, bytes, unread)
-                                         : readPolicy(options.source, options.maxSizeMB << 20, "run", console, bytes);
+    PolicyReadFailure failure;
+    std::unique_ptr<Policy> policy = isAddress(options.source) ? fetchPolicy(options, console, bytes, unread)
+                                                               : readPolicy(options.source, options.maxSizeMB << 20,
+                                                                            "run", console, bytes, &failure);
     if (!policy) {
-        return unread;
+        return isAddress(options.source) ? unread : reportUnreadable(options, failure, unread, console);
     }
 
     // An include that cannot be read ends the run, as it ends the agent; the CLI says why and
