@@ -147,7 +147,7 @@ TEST_P(CommandSignalTest, LeavesNoShellBehind)
 
 INSTANTIATE_TEST_SUITE_P(Signals, CommandSignalTest, testing::Values("TERM", "INT"));
 
-struct MonitorSignalCase {
+struct MonitorCommandSignalCase {
     std::string title;
     std::string mode;
     std::string signal;
@@ -155,11 +155,11 @@ struct MonitorSignalCase {
     int exitCode;
 };
 
-class MonitorSignalTest : public testing::TestWithParam<MonitorSignalCase> {};
+class MonitorCommandSignalTest : public testing::TestWithParam<MonitorCommandSignalCase> {};
 
 // --once ends by the signal, as run does; a scheduled monitor stops as asked (status 0) without
 // reporting the run that the stop cut short. Either way the command's group is gone.
-TEST_P(MonitorSignalTest, LeavesNoShellBehind)
+TEST_P(MonitorCommandSignalTest, LeavesNoShellBehind)
 {
     testing_support::TempDir dir;
     auto file = dir.write("m.xml", "<m><Monitor id=\"m\" period=\"1\"><VersionFromScript script=\"" +
@@ -171,13 +171,12 @@ TEST_P(MonitorSignalTest, LeavesNoShellBehind)
     EXPECT_EQ(result.out, "exit=" + std::to_string(GetParam().exitCode) + "\n") << result.err;
 }
 
-INSTANTIATE_TEST_SUITE_P(Signals, MonitorSignalTest,
-                         testing::Values(MonitorSignalCase{"OnceTerm", "--once", "TERM", "sleep 31.4163", 128 + 15},
-                                         MonitorSignalCase{"OnceInt", "--once", "INT", "sleep 31.4164", 128 + 2},
-                                         MonitorSignalCase{"ScheduledTerm", "", "TERM", "sleep 31.4165", 0},
-                                         MonitorSignalCase{"ScheduledInt", "--count 5", "INT", "sleep 31.4166", 0}),
-                         [](const testing::TestParamInfo<MonitorSignalCase>& testCase) {
-                             return testCase.param.title;
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Signals, MonitorCommandSignalTest,
+    testing::Values(MonitorCommandSignalCase{"OnceTerm", "--once", "TERM", "sleep 31.4163", 128 + 15},
+                    MonitorCommandSignalCase{"OnceInt", "--once", "INT", "sleep 31.4164", 128 + 2},
+                    MonitorCommandSignalCase{"ScheduledTerm", "", "TERM", "sleep 31.4165", 0},
+                    MonitorCommandSignalCase{"ScheduledInt", "--count 5", "INT", "sleep 31.4166", 0}),
+    [](const testing::TestParamInfo<MonitorCommandSignalCase>& testCase) { return testCase.param.title; });
 
 }  // namespace
