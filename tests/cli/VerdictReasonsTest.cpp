@@ -287,7 +287,7 @@ INSTANTIATE_TEST_SUITE_P(
                                "<option name=\"o\"></option>",
                                0,
                                "not evaluated",
-                               {"Option \"o\": not evaluated (it holds no section)"},
+                               {"Option \"o\": not evaluated (it holds no section)", "; 1 option without sections)"},
                                {}}),
     [](const testing::TestParamInfo<OptionCase>& testCase) { return testCase.param.title; });
 

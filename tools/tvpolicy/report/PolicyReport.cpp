@@ -587,12 +587,18 @@ std::string verdictLine(const Json& report, const TextStyle& style)
     note("included-not-evaluated", "included section not evaluated", "included sections not evaluated");
     note("no-sections", "policy without sections", "policies without sections");
     unsigned uncounted = 0;
+    unsigned emptyOptions = 0;
     for (const Json& item : report["items"]) {
         uncounted += item.value("statusText", std::string()) == "failed, not counted" ? 1 : 0;
+        emptyOptions += item["kind"] == "option" && item.contains("notEvaluatedBecause") ? 1 : 0;
     }
     if (uncounted > 0) {
         line +=
             "; " + std::to_string(uncounted) + (uncounted == 1 ? " failed option" : " failed options") + " not counted";
+    }
+    if (emptyOptions > 0) {
+        line +=
+            "; " + std::to_string(emptyOptions) + (emptyOptions == 1 ? " option" : " options") + " without sections";
     }
     line += ")";
     if (report["switches"]["auditOnly"].get<bool>()) {
