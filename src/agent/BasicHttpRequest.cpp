@@ -1,6 +1,8 @@
 #include <tvpolicy/agent/BasicHttpRequest.h>
 
+#include <cctype>
 #include <cstdio>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <mutex>
@@ -63,6 +65,10 @@ void applyBounds(CURL* handle, const HttpBounds& bounds)
         curl_easy_setopt(handle, CURLOPT_CAINFO, bounds.caFile.c_str());
         curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
     }
+    if (bounds.insecure) {
+        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 0L);
+        curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 0L);
+    }
     if (bounds.cancel != nullptr) {
         curl_easy_setopt(handle, CURLOPT_XFERINFOFUNCTION, &endWhenCancelled);
         curl_easy_setopt(handle, CURLOPT_XFERINFODATA, const_cast<std::atomic<bool>*>(bounds.cancel));
@@ -93,7 +99,46 @@ struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
+// A request header as libcurl reads it: "Name;" sends Name empty, where "Name:" would take
+// libcurl's own header of that name away.
+std::string curlHeaderLine(const std::string& line)
+{
+    std::size_t colon = line.find(':');
+    std::size_t value = line.find_first_not_of(" \t", colon + 1);
+    return value == std::string::npos ? line.substr(0, colon) + ";" : line;
+}
+
+void appendHeader(CurlList& list, const std::string& line)
+{
+    curl_slist* longer = curl_slist_append(list.get(), line.c_str());
+    if (!list) {
+        list.reset(longer);  // appending to an existing list keeps its head
+    }
+}
+
 }  // namespace
+
+bool isValidHttpHeader(const std::string& line)
+{
+    static const char* const tokenMarks = "!#$%&'*+-.^_`|~";
+    std::size_t colon = line.find(':');
+    if (colon == 0 || colon == std::string::npos) {
+        return false;
+    }
+    for (std::size_t i = 0; i < colon; ++i) {
+        unsigned char c = static_cast<unsigned char>(line[i]);
+        if (!std::isalnum(c) && std::strchr(tokenMarks, c) == nullptr) {
+            return false;
+        }
+    }
+    for (std::size_t i = colon + 1; i < line.size(); ++i) {
+        unsigned char c = static_cast<unsigned char>(line[i]);
+        if ((c < 0x20 && c != '\t') || c == 0x7f) {
+            return false;
+        }
+    }
+    return true;
+}
 
 HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::string& url, const std::string& postFields,
                                         const std::string& cookie, const std::string& path,
@@ -116,8 +161,8 @@ HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::stri
         return result;
     }
 
-    // The options in the order the agent has always set them; get and test build the agent
-    // header too, but send none.
+    // The options in the order the agent has always set them; get and test send no header of
+    // their own (only the bounds' headers, when there are any).
     CURL* handle = curl.get();
     bool collects = operation == Op::get || operation == Op::post;
     BoundedText bodySink{&result.contents, capOf(bounds)};
@@ -138,16 +183,22 @@ HttpTransfer BasicHttpRequest::transfer(HttpOperation operation, const std::stri
     if (operation == Op::post || operation == Op::download) {
         curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
     }
-    CurlList headerList(curl_slist_append(nullptr, agentHeader.c_str()));
+    bool sendsAgentHeader = operation == Op::post || operation == Op::download;
+    CurlList headerList;
+    if (sendsAgentHeader) {
+        appendHeader(headerList, agentHeader);
+    }
     if (operation == Op::post && !contentType.empty()) {
-        std::string header = "Content-Type: " + contentType;
-        curl_slist* longer = curl_slist_append(headerList.get(), header.c_str());
-        if (!headerList) {
-            headerList.reset(longer);  // appending to an existing list keeps its head
+        appendHeader(headerList, "Content-Type: " + contentType);
+    }
+    if (bounds.enabled) {
+        for (const std::string& line : bounds.headers) {
+            if (isValidHttpHeader(line)) {
+                appendHeader(headerList, curlHeaderLine(line));
+            }
         }
     }
-    bool sendsAgentHeader = operation == Op::post || operation == Op::download;
-    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, sendsAgentHeader ? headerList.get() : nullptr);
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headerList.get());
     curl_easy_setopt(handle, CURLOPT_USERAGENT, compatibilityUserAgent);
     curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
     if (operation == Op::get) {

@@ -28,6 +28,12 @@ std::string policyOf(const std::string& sectionBody, const std::string& head = "
 
 const std::string unableToRead = "tvpolicy run: Unable to read policy.\n";
 
+// The policy to run: `content` written to policy.xml, or `path` ("DIR": the temporary folder).
+std::string inputPath(testing_support::TempDir& dir, const std::string& content, const std::string& path)
+{
+    return path == "DIR" ? dir.path().string() : path.empty() ? dir.write("policy.xml", content).string() : path;
+}
+
 struct FlawedCase {
     std::string title;
     std::string content;             // written to policy.xml unless `path` is given
@@ -43,9 +49,7 @@ TEST_P(FlawedInputTest, RefusesWithTheCauseAndTheDocumentedStatus)
 {
     const FlawedCase& c = GetParam();
     testing_support::TempDir dir;
-    std::string path = c.path == "DIR"  ? dir.path().string()
-                       : c.path.empty() ? dir.write("policy.xml", c.content).string()
-                                        : c.path;
+    std::string path = inputPath(dir, c.content, c.path);
     std::vector<std::string> args{"run", path, "-q"};
     args.insert(args.end(), c.extra.begin(), c.extra.end());
     auto result = runCli(args);
@@ -145,6 +149,62 @@ INSTANTIATE_TEST_SUITE_P(
     [](const testing::TestParamInfo<FlawedCase>& testCase) { return testCase.param.title; });
 
 // Without --strict the run goes on, and every way of saying the result says what was not evaluated.
+// An unreadable local policy: standard error gives the cause first, then the library's message
+// without its network advice; JSON results carry the cause and, apart, the library's own message
+// as it gave it (null when the library never read the document).
+struct UnreadableCase {
+    std::string title;
+    std::string content;         // written to policy.xml unless `path` is given
+    std::string path;            // "DIR": the temporary folder
+    std::string cause;           // how the first line of standard error goes on after "tvpolicy run: PATH"
+    std::string libraryMessage;  // how JSON's libraryMessage starts; empty: null
+    bool advice;                 // the library's message holds its network advice
+};
+
+class UnreadablePolicyTest : public testing::TestWithParam<UnreadableCase> {};
+
+TEST_P(UnreadablePolicyTest, CauseFirstAndTheLibrarysMessageApart)
+{
+    const UnreadableCase& c = GetParam();
+    testing_support::TempDir dir;
+    std::string path = inputPath(dir, c.content, c.path);
+    auto text = runCli({"run", path, "-q"});
+    EXPECT_EQ(text.exitCode, 2);
+    const std::string firstLine = text.err.substr(0, text.err.find('\n'));
+    EXPECT_EQ(firstLine.rfind("tvpolicy run: " + path + c.cause, 0), 0u) << text.err;
+    EXPECT_EQ(text.err.find("personal firewall"), std::string::npos) << text.err;
+    EXPECT_EQ(text.out, "");
+
+    for (const std::vector<std::string>& asJson : {std::vector<std::string>{"--json"}, {"--format", "json"}}) {
+        std::vector<std::string> args{"run", path, "-q"};
+        args.insert(args.end(), asJson.begin(), asJson.end());
+        auto json = runCli(args);
+        EXPECT_EQ(json.exitCode, 2);
+        EXPECT_EQ(json.err.find("personal firewall"), std::string::npos) << json.err;
+        auto shown = nlohmann::json::parse(json.out);
+        EXPECT_EQ(shown["result"], "ERROR");
+        EXPECT_EQ(shown["exitStatus"], 2);
+        EXPECT_EQ("tvpolicy run: " + shown["error"].get<std::string>(), firstLine);
+        if (c.libraryMessage.empty()) {
+            EXPECT_TRUE(shown["libraryMessage"].is_null()) << shown;
+        } else {
+            std::string message = shown["libraryMessage"].get<std::string>();
+            EXPECT_EQ(message.rfind(c.libraryMessage, 0), 0u) << message;
+            EXPECT_EQ(message.find("personal firewall") != std::string::npos, c.advice) << message;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Inputs, UnreadablePolicyTest,
+    testing::Values(UnreadableCase{"Empty", "", "", ": is empty", "Unable to read policy.", true},
+                    UnreadableCase{"Directory", "", "DIR", ": is a directory", "Unable to read policy.", true},
+                    UnreadableCase{"CutShort", "<policy name=\"p\">\n<section name=\"s\">\n</policy>", "",
+                                   ": not XML: ", "A configuration error has occurred at line: 3", false},
+                    UnreadableCase{"NotAPolicy", "<html/>", "",
+                                   " is not a policy: its root element is <html>, a policy's is <policy>", "", false}),
+    [](const testing::TestParamInfo<UnreadableCase>& testCase) { return testCase.param.title; });
+
 TEST(RunTruth, UnevaluatedElementsAreNamedInEveryOutput)
 {
     testing_support::TempDir dir;

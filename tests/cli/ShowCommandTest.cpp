@@ -105,4 +105,113 @@ TEST(ShowCommand, JsonIsOneCleanObjectAndHidesPassPhrases)
     EXPECT_EQ(nlohmann::json::parse(revealed.out)["password"], "s3cret");
 }
 
+// What a reader does not read is warned about with its line, and the values it does read are
+// still shown. The profile is found wherever it stands, as the status reader finds it.
+struct UnreadCase {
+    std::string title;
+    std::string kind;
+    std::string document;
+    // Each expected in standard error, in this order: "line N: ..." starts a warning, any other
+    // text is more of the one before.
+    std::vector<std::string> warnings;
+    std::vector<std::string> lines;  // each expected as a whole line of standard output
+};
+
+class ShowUnreadTest : public testing::TestWithParam<UnreadCase> {};
+
+TEST_P(ShowUnreadTest, WarnsWithTheLine)
+{
+    testing_support::TempDir dir;
+    auto result = runCli({"show", GetParam().kind, dir.write("d.xml", GetParam().document).string()});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    std::size_t at = 0;
+    std::size_t expected = 0;
+    for (const std::string& warning : GetParam().warnings) {
+        bool starts = warning.rfind("line ", 0) == 0;
+        expected += starts ? 1 : 0;
+        std::size_t found = result.err.find(starts ? "tvpolicy show: warning: " + warning : warning, at);
+        EXPECT_NE(found, std::string::npos) << warning << "\n" << result.err;
+        at = found == std::string::npos ? at : found;
+    }
+    std::size_t count = 0;
+    for (std::size_t i = result.err.find("warning:"); i != std::string::npos; i = result.err.find("warning:", i + 1)) {
+        ++count;
+    }
+    EXPECT_EQ(count, expected) << result.err;
+    for (const std::string& line : GetParam().lines) {
+        EXPECT_NE(("\n" + result.out).find("\n" + line + "\n"), std::string::npos) << line << "\n" << result.out;
+    }
+}
+
+const std::string agentNs = " xmlns=\"urn:torvane:agent:1\"";
+
+INSTANTIATE_TEST_SUITE_P(
+    Documents, ShowUnreadTest,
+    testing::Values(
+        UnreadCase{"CleanProfile",
+                   "profile",
+                   "<profile" + agentNs + ">\n<SSID>lab</SSID>\n<securityType>WPA2</securityType>\n</profile>",
+                   {},
+                   {"SSID: lab", "securityType: WPA2"}},
+        UnreadCase{"ProfileInAStatusReply",
+                   "profile",
+                   "<agentStatus" + agentNs +
+                       ">\n<status>NEEDS_SWIFTJOIN</status>\n<wrap>\n<profile>\n"
+                       "<SSID>campus</SSID>\n</profile>\n</wrap>\n</agentStatus>",
+                   {},
+                   {"SSID: campus"}},
+        UnreadCase{"MisspeltAndUnknownValues",
+                   "profile",
+                   "<profile" + agentNs +
+                       ">\n<ssid>lab</ssid>\n<securityType>wpa2</securityType>\n"
+                       "<configCipher>CCMP</configCipher>\n<validateServerCertWindows>yes</validateServerCertWindows>\n"
+                       "</profile>",
+                   {"line 2: <ssid> in <profile> at line 1 is not an element the profile reader reads: it was "
+                    "passed over (did you mean <SSID>?)",
+                    "line 3: <securityType> holds \"wpa2\", not a value the profile reader knows",
+                    "line 4: <configCipher> holds \"CCMP\"", "line 5: <validateServerCertWindows> holds \"yes\""},
+                   {"SSID: ", "securityType: OPEN", "configCipher: other", "validateServerCert: false"}},
+        UnreadCase{"RepeatedAndSecondProfile",
+                   "profile",
+                   "<r" + agentNs +
+                       ">\n<profile><SSID>a</SSID>\n<SSID>b</SSID></profile>\n"
+                       "<profile><SSID>c</SSID></profile>\n</r>",
+                   {"line 2: another <SSID>: the profile reader reads only the last one, at line 3",
+                    "line 4: a second <profile>: only the first one, at line 2, is read"},
+                   {"SSID: b"}},
+        UnreadCase{"CleanConfigExample",
+                   "config",
+                   testing_support::readFile(examples + "agent-config.xml"),
+                   {},
+                   {"loginUrl: https://nac.example.net/agent/login"}},
+        UnreadCase{"ConfigFlaws",
+                   "config",
+                   "<agentConfig" + agentNs +
+                       ">\n<loginURL>https://x</loginURL>\n<showIntro>yes</showIntro>\n"
+                       "<scanUrl>a</scanUrl>\n<scanUrl>b</scanUrl>\n<field name=\"u\"><lable>User</lable>"
+                       "<type>text</type></field>\n<o:uid xmlns:o=\"urn:other\">1</o:uid>\n</agentConfig>",
+                   {"line 2: <loginURL> is not an element the configuration reader reads: it was passed over (did "
+                    "you mean <loginUrl>?)",
+                    "line 3: <showIntro> holds \"yes\"", "read as false",
+                    "line 5: another <scanUrl>: the configuration reader reads only the first one, at line 4",
+                    "line 6: <lable> in <field> at line 6 is not an element", "line 6: <type> holds \"text\"",
+                    "line 7: <uid> is not in the agent namespace urn:torvane:agent:1"},
+                   {"loginUrl: ", "showIntro: false", "scanUrl: a", "fields[0].type: TEXT"}},
+        UnreadCase{"ConfigWrapperIsHarmless",
+                   "config",
+                   "<agentConfig" + agentNs + ">\n<group><uid>7</uid></group>\n</agentConfig>",
+                   {},
+                   {"uid: 7"}},
+        UnreadCase{"StatusFlaws",
+                   "status",
+                   "<agentStatus" + agentNs +
+                       ">\n<status>success</status>\n<scanname>s</scanname>\n"
+                       "<profile><SSID>x</SSID><wpa2/></profile>\n</agentStatus>",
+                   {"line 2: <status> holds \"success\"", "read as ERROR",
+                    "line 3: <scanname> is not an element the status reader reads: it was passed over (did you "
+                    "mean <scanName>?)",
+                    "line 4: <wpa2> in <profile> at line 4"},
+                   {"status: ERROR", "profile.SSID: x"}}),
+    [](const testing::TestParamInfo<UnreadCase>& testCase) { return testCase.param.title; });
+
 }  // namespace

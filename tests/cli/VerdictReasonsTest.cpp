@@ -40,22 +40,43 @@ unsigned junitFailures(const std::string& xml)
     return match.empty() ? 0 : static_cast<unsigned>(std::stoul(match[1]));
 }
 
+void expectEach(const std::string& text, const std::vector<std::string>& parts)
+{
+    for (const std::string& part : parts) {
+        EXPECT_NE(text.find(part), std::string::npos) << "missing: " << part << "\nin: " << text;
+    }
+}
+
+// A run of `policy` with the HTML and JUnit reports, in `dir`.
+struct ReportedRun {
+    std::string path;
+    std::string junit;
+    std::string html;
+    testing_support::CliResult text;
+};
+
+ReportedRun runWithReports(testing_support::TempDir& dir, const std::string& policy)
+{
+    ReportedRun run;
+    run.path = dir.write("p.xml", policy).string();
+    run.junit = (dir.path() / "j.xml").string();
+    run.html = (dir.path() / "r.html").string();
+    run.text = runCli({"run", run.path, "-q", "--junit", run.junit, "--report", run.html});
+    return run;
+}
+
 TEST_P(VerdictTest, SaysWhyInEveryOutput)
 {
     const VerdictCase& c = GetParam();
     testing_support::TempDir dir;
-    auto path = dir.write("p.xml", c.policy).string();
-    auto junit = (dir.path() / "j.xml").string();
-    auto html = (dir.path() / "r.html").string();
-
-    auto text = runCli({"run", path, "-q", "--junit", junit, "--report", html});
+    ReportedRun run = runWithReports(dir, c.policy);
+    const std::string& path = run.path;
+    const std::string& junit = run.junit;
+    const std::string& html = run.html;
+    const testing_support::CliResult& text = run.text;
     EXPECT_EQ(text.exitCode, c.exitCode) << text.out << text.err;
-    for (const std::string& part : c.inOut) {
-        EXPECT_NE(text.out.find(part), std::string::npos) << "missing: " << part << "\nin: " << text.out;
-    }
-    for (const std::string& part : c.inErr) {
-        EXPECT_NE(text.err.find(part), std::string::npos) << "missing: " << part << "\nin: " << text.err;
-    }
+    expectEach(text.out, c.inOut);
+    expectEach(text.err, c.inErr);
     // A CI system reads failures from JUnit: some exactly when the run failed.
     EXPECT_EQ(junitFailures(testing_support::readFile(junit)) > 0, text.exitCode == 1);
 
@@ -195,5 +216,79 @@ INSTANTIATE_TEST_SUITE_P(
             false,
             1}),
     [](const testing::TestParamInfo<VerdictCase>& testCase) { return testCase.param.title; });
+
+// An option none of whose sections is in a group has the library's status 0 (skipped) whatever
+// its sections find, and a skipped option never fails the policy. No output may call a passing
+// one skipped, nor hide a failing one behind the word: each says what happened and why it does
+// not count, and JUnit agrees with the exit status.
+struct OptionCase {
+    std::string title;
+    std::string options;
+    int exitCode;
+    std::string statusText;            // of the option, in JSON
+    std::vector<std::string> inOut;    // each on standard output (text)
+    std::vector<std::string> inJunit;  // each in the JUnit file
+};
+
+class UngroupedOptionTest : public testing::TestWithParam<OptionCase> {};
+
+TEST_P(UngroupedOptionTest, IsShownByItsOutcome)
+{
+    const OptionCase& c = GetParam();
+    testing_support::TempDir dir;
+    ReportedRun run = runWithReports(dir, policyOf(c.options));
+    EXPECT_EQ(run.text.exitCode, c.exitCode) << run.text.out << run.text.err;
+    expectEach(run.text.out, c.inOut);
+    EXPECT_EQ(run.text.out.find("Option \"o\": skipped"), std::string::npos) << run.text.out;
+    std::string xml = testing_support::readFile(run.junit);
+    EXPECT_EQ(junitFailures(xml) > 0, run.text.exitCode == 1) << xml;
+    expectEach(xml, c.inJunit);
+    nlohmann::json report = nlohmann::json::parse(runCli({"run", run.path, "-q", "--json"}).out);
+    nlohmann::json option;
+    for (const auto& item : report["items"]) {
+        option = item["kind"] == "option" ? item : option;
+    }
+    EXPECT_EQ(option["status"], 0) << option;  // the library's number stays
+    EXPECT_EQ(option["statusText"], c.statusText) << option;
+    std::string page = testing_support::readFile(run.html);
+    std::string note = option.value("statusNote", option.value("notEvaluatedBecause", ""));
+    EXPECT_FALSE(note.empty()) << option;
+    EXPECT_NE(page.find(note.substr(0, note.find('\''))), std::string::npos) << note;  // up to the escaped quotes
+}
+
+const std::string statusZero = "the library gives status 0 (skipped) to an option none of whose sections is in a group";
+
+INSTANTIATE_TEST_SUITE_P(
+    Options, UngroupedOptionTest,
+    testing::Values(OptionCase{"PassesThroughItsSecond",
+                               "<option name=\"o\"><section name=\"a\" primary=\"true\"><false/></section>"
+                               "<section name=\"b\" primary=\"true\"><true/></section></option>",
+                               0,
+                               "passed",
+                               {"Option \"o\": passed (" + statusZero, "it passed through section 'b'"},
+                               {"its option passed without it"}},
+                    OptionCase{"OnlyTypePassesThroughOne",
+                               "<option name=\"o\" type=\"ONLY\"><section name=\"a\" primary=\"true\"><true/></section>"
+                               "</option>",
+                               0,
+                               "passed",
+                               {"Option \"o\": passed ("},
+                               {}},
+                    OptionCase{
+                        "FailsWithoutCounting",
+                        "<option name=\"o\"><section name=\"a\" primary=\"true\"><false/></section>"
+                        "<section name=\"b\" primary=\"true\"><false/></section></option>",
+                        0,
+                        "failed, not counted",
+                        {"Option \"o\": failed, not counted (" + statusZero,
+                         "a skipped option does not fail the policy", "; 1 failed option not counted)"},
+                        {"its option failed, but an option none of whose sections is in a group counts as skipped"}},
+                    OptionCase{"HoldsNoSection",
+                               "<option name=\"o\"></option>",
+                               0,
+                               "not evaluated",
+                               {"Option \"o\": not evaluated (it holds no section)", "; 1 option without sections)"},
+                               {}}),
+    [](const testing::TestParamInfo<OptionCase>& testCase) { return testCase.param.title; });
 
 }  // namespace

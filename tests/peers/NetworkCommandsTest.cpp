@@ -122,6 +122,66 @@ TEST(HttpCommand, OptionsOfANewUser)
     }
 }
 
+// --insecure takes a self-signed certificate that is refused without it, and warns each time;
+// -H adds request headers (replacing the client's own of that name) and refuses a malformed one
+// before anything is sent.
+TEST(HttpCommand, InsecureAndHeaders)
+{
+    peers::HttpPeer plain;
+    peers::HttpPeer tls(true);
+    testing_support::TempDir dir;
+    const std::string warning =
+        "tvpolicy http: warning: --insecure: the server's certificate and host name are not "
+        "checked";
+    const std::string malformed = "is not NAME:VALUE";
+    struct Case {
+        std::vector<std::string> args;
+        int exitCode;
+        std::string out;
+        std::string errPart;                                    // "" : standard error must not warn about --insecure
+        std::vector<std::pair<std::string, std::string>> seen;  // headers the plain server must have seen
+    };
+    const std::vector<Case> cases = {
+        {{"get", tls.url("/echo")}, 2, "", "certificate", {}},
+        {{"get", tls.url("/echo"), "--insecure"}, 0, "hello", warning, {}},
+        {{"post", tls.url("/echo"), "--data", "a=b", "--insecure"}, 0, "hello", warning, {}},
+        {{"head", tls.url("/echo"), "--insecure"}, 0, "200\n", warning, {}},
+        {{"download", tls.url("/binary"), "--insecure", "-o", (dir.path() / "b.bin").string()}, 0, "", warning, {}},
+        {{"get", plain.url("/echo"), "-H", "X-Test: one", "-H", "X-Other:two"},
+         0,
+         "hello",
+         "",
+         {{"X-Test", "one"}, {"X-Other", "two"}}},
+        {{"get", plain.url("/echo"), "-H", "User-Agent: probe/1"}, 0, "hello", "", {{"User-Agent", "probe/1"}}},
+        {{"post", plain.url("/echo"), "--data", "a=b", "-H", "X-Test: posted"}, 0, "hello", "", {{"X-Test", "posted"}}},
+        {{"get", plain.url("/echo"), "-H", "NoColon"}, 2, "", malformed, {}},
+        {{"get", plain.url("/echo"), "-H", ": no name"}, 2, "", malformed, {}},
+        {{"get", plain.url("/echo"), "-H", "Bad Name: x"}, 2, "", malformed, {}},
+        {{"get", plain.url("/echo"), "-H", "X-A: a\r\nX-Injected: b"}, 2, "", malformed, {}},
+        {{"get", plain.url("/echo"), "-H", "X-A: a\nb"}, 2, "", malformed, {}},
+    };
+    for (const Case& c : cases) {
+        std::vector<std::string> args = {"http"};
+        args.insert(args.end(), c.args.begin(), c.args.end());
+        const int before = plain.seen().count;
+        auto result = runCli(args);
+        const std::string what = c.args[0] + " " + c.args.back();
+        EXPECT_EQ(result.exitCode, c.exitCode) << what << ": " << result.err;
+        EXPECT_EQ(result.out, c.out) << what;
+        if (c.errPart.empty()) {
+            EXPECT_EQ(result.err.find("--insecure"), std::string::npos) << what << ": " << result.err;
+        } else {
+            EXPECT_NE(result.err.find(c.errPart), std::string::npos) << what << ": " << result.err;
+        }
+        if (c.errPart == malformed) {
+            EXPECT_EQ(plain.seen().count, before) << what << ": a request was sent";
+        }
+        for (const auto& [name, value] : c.seen) {
+            EXPECT_EQ(plain.seen().header(name), value) << what << ": header " << name;
+        }
+    }
+}
+
 TEST(HttpCommand, DownloadsIntoAFile)
 {
     peers::HttpPeer server;

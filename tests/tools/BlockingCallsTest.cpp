@@ -17,13 +17,13 @@
 
 #include "agent/AgentRuntime.h"
 #include "agent/BlockingCalls.h"
-#include "agent/CommandGroups.h"
+#include "process/CommandGroups.h"
 
 namespace {
 
+using tvpolicy::cli::CommandGroups;
 using tvpolicy::cli::agent::AgentSignals;
 using tvpolicy::cli::agent::BlockingCalls;
-using tvpolicy::cli::agent::CommandGroups;
 using tvpolicy::cli::agent::Wake;
 using namespace std::chrono_literals;
 

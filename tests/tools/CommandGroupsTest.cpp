@@ -16,12 +16,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "agent/CommandGroups.h"
+#include "process/CommandGroups.h"
 #include "support/ProcessWatch.h"
 
 namespace {
 
-using tvpolicy::cli::agent::CommandGroups;
+using tvpolicy::cli::CommandGroups;
 using namespace std::chrono_literals;
 
 // A folder of the test's own under the system's temporary folder, removed at the end.

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <map>
 #include <string>
+#include <vector>
 
 #include <tvpolicy/export.h>
 
@@ -22,9 +23,21 @@ struct TVPOLICY_API HttpBounds {
     std::size_t maxBodyBytes = 64u << 20;  ///< body (and, apart, headers) larger than this end the transfer
     std::string protocols = "http,https";  ///< the schemes a URL may use (libcurl's list form)
     std::string caFile;                    ///< trust the CAs of this PEM file instead of the system's
+    /// Neither the server's certificate nor its host name is checked (for a test server only:
+    /// anyone on the path can then read and change the transfer).
+    bool insecure = false;
+    /// More request headers, each "Name: value", sent by every operation after its own (one of
+    /// the same name replaces the operation's, User-Agent included). An empty value is sent as
+    /// an empty header. An entry whose name is not an HTTP token or whose text holds a control
+    /// character other than a tab is not sent (see isValidHttpHeader).
+    std::vector<std::string> headers;
     /// When set, a transfer in flight ends (within a fraction of a second) once it turns true.
     const std::atomic<bool>* cancel = nullptr;
 };
+
+/// Whether `line` is a request header that HttpBounds::headers sends: a name of HTTP token
+/// characters, a colon, and a value without control characters other than a tab.
+TVPOLICY_API bool isValidHttpHeader(const std::string& line);
 
 /// The four requests of BasicHttpRequest.
 enum class HttpOperation { get, post, head, download };

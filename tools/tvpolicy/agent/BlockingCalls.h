@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "agent/AgentRuntime.h"
-#include "agent/CommandGroups.h"
+#include "process/CommandGroups.h"
 
 namespace tvpolicy::cli::agent {
 

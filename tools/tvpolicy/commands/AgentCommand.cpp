@@ -28,15 +28,14 @@
 
 #include "agent/AddressRenewal.h"
 #include "agent/AgentCycle.h"
-#include "agent/AgentHost.h"
 #include "agent/AgentRuntime.h"
 #include "agent/AgentSettings.h"
 #include "agent/AgentState.h"
 #include "agent/BlockingCalls.h"
-#include "agent/CommandGroups.h"
 #include "agent/Discovery.h"
 #include "agent/ServiceManager.h"
 #include "commands/Command.h"
+#include "process/CommandHost.h"
 #include "report/PolicyReport.h"
 
 namespace tvpolicy::cli {
@@ -489,7 +488,7 @@ void Agent::stopWatches()
 
 int Agent::run()
 {
-    AgentHost host(tvpolicy::systemHost(), commands_);
+    CommandHost host(tvpolicy::systemHost(), commands_);
     tvpolicy::ScopedHost commandsInGroups(host);
     std::string error;
     if (!reload(error)) {

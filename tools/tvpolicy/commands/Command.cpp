@@ -28,4 +28,19 @@ std::vector<Command> registeredCommands()
     return commands;
 }
 
+void addCommandTimeout(CLI::App& app, double& seconds)
+{
+    app.add_option("--command-timeout", seconds,
+                   "End a command that a check runs (VersionFromScript), with its process group, after S seconds; "
+                   "the check then fails saying so")
+        ->option_text("S")
+        ->capture_default_str()
+        ->check(CLI::Range(0.001, 86400.0));
+}
+
+std::chrono::milliseconds commandTimeout(double seconds)
+{
+    return std::chrono::milliseconds(static_cast<long long>(seconds * 1000));
+}
+
 }  // namespace tvpolicy::cli

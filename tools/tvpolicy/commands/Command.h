@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -35,5 +36,10 @@ std::vector<Command> registeredCommands();
 /// 0 passed, 1 failed, 2 a usage error or a document that could not be read (or results that
 /// could not be written), 3 a resource the document names could not be fetched.
 enum ExitStatus { exitPassed = 0, exitFailed = 1, exitUsage = 2, exitUnfetched = 3 };
+
+/// `--command-timeout S` (60 by default), shared by the subcommands that perform checks: how
+/// long a command a check runs may take before it is ended with its process group.
+void addCommandTimeout(CLI::App& app, double& seconds);
+std::chrono::milliseconds commandTimeout(double seconds);
 
 }  // namespace tvpolicy::cli

@@ -7,6 +7,7 @@
 #include <optional>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <strings.h>
 
@@ -32,6 +33,8 @@ struct HttpOptions {
     std::string url;
     std::string data;  // "@FILE": the file's bytes
     std::string caFile;
+    bool insecure = false;
+    std::vector<std::string> headers;  // -H NAME:VALUE, in the order given
     bool follow = false;
     std::string cookie;
     std::string output;
@@ -141,14 +144,37 @@ HttpTransfer getFollowing(const HttpOptions& options, Console& console)
     }
 }
 
+// Every -H is a header the client can send; --insecure is told each time it is used.
+bool checkRequestOptions(const HttpOptions& options, Console& console)
+{
+    for (const std::string& header : options.headers) {
+        if (!com::torvane::isValidHttpHeader(header)) {
+            console.err() << "tvpolicy http: -H '" << header
+                          << "' is not NAME:VALUE (a name of letters, digits and !#$%&'*+-.^_`|~, a colon, then a "
+                             "value without line breaks or other control characters)\n";
+            return false;
+        }
+    }
+    if (options.insecure) {
+        console.err() << "tvpolicy http: warning: --insecure: the server's certificate and host name are not "
+                         "checked; anyone on the way can read and change this transfer\n";
+    }
+    return true;
+}
+
 int runHttp(const HttpOptions& options, Console& console)
 {
+    if (!checkRequestOptions(options, console)) {
+        return exitUsage;
+    }
     com::torvane::HttpBounds bounds;
     bounds.enabled = true;
     bounds.totalTimeoutMs = static_cast<long>(options.timeoutSeconds * 1000);
     bounds.connectTimeoutMs = std::min(bounds.connectTimeoutMs, bounds.totalTimeoutMs);
     bounds.maxBodyBytes = options.maxBytes;
     bounds.caFile = options.caFile;
+    bounds.insecure = options.insecure;
+    bounds.headers = options.headers;
     BasicHttpRequest::setBounds(bounds);
 
     if (options.follow && options.operation != "get") {
@@ -235,6 +261,12 @@ CommandAction setupHttp(CLI::App& app)
                    "Trust the certificate authorities of this PEM file instead of the system's")
         ->option_text("FILE")
         ->check(CLI::ExistingFile);
+    app.add_flag("--insecure", options->insecure,
+                 "Check neither the server's certificate nor its host name (a warning says so each time)");
+    app.add_option("-H,--header", options->headers,
+                   "Send the request header NAME:VALUE too (repeatable; it replaces the client's own of that name)")
+        ->option_text("NAME:VALUE")
+        ->allow_extra_args(false);
     app.add_flag("-L,--location", options->follow,
                  "Follow redirects of a get (up to ten; the agent's client never follows them)");
     app.add_option("--cookie", options->cookie, "The Cookie header's value")->option_text("C");

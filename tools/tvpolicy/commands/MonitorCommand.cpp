@@ -1,6 +1,7 @@
-// tvpolicy monitor FILE [--once] [--count N] [--json]: runs the monitors of a document as the
-// agent does, each when its next run time has come, printing every status XML as one line (and
-// why a monitor reported false on standard error), or one JSON object per run.
+// tvpolicy monitor FILE [--once] [--count N] [--json] [--command-timeout S]: runs the monitors of
+// a document as the agent does, each when its next run time has come, printing every status XML
+// as one line (and why a monitor reported false on standard error), or one JSON object per run.
+#include <chrono>
 #include <ctime>
 #include <exception>
 #include <list>
@@ -10,11 +11,13 @@
 #include <vector>
 
 #include <tvpolicy/checks/Monitor.h>
+#include <tvpolicy/host/HostProbe.h>
 
 #include "commands/Command.h"
 #include "io/StopSignals.h"
 #include "policy/DocumentFile.h"
 #include "policy/UnreadElements.h"
+#include "process/CommandHost.h"
 #include "report/MonitorRun.h"
 
 namespace tvpolicy::cli {
@@ -35,10 +38,16 @@ MonitorList takeMonitors(std::list<Monitor*>* parsed)
 }
 
 /// Runs `monitor`, prints its status line (and why it reported false) or its JSON line, and
-/// tells whether it reported "true".
-bool runAndPrint(Monitor& monitor, Console& console, bool json)
+/// tells whether it reported "true". A run that a stop cut short (its command was ended) is not
+/// reported: what it found is not what the monitor would have found.
+bool runAndPrint(Monitor& monitor, Console& console, bool json, const CommandHost& commands,
+                 StopSignals* stop = nullptr)
 {
-    MonitorRun run = performMonitor(monitor);
+    MonitorRun run = performMonitor(monitor, &commands);
+    if (stop != nullptr && stop->stopRequested()) {
+        console.err() << "tvpolicy monitor: '" << run.id << "' was cut short by a stop; its run is not reported\n";
+        return true;
+    }
     if (json) {
         console.out() << run.toJson().dump() << '\n' << std::flush;
     } else {
@@ -55,21 +64,30 @@ bool notAfter(const std::timespec& a, const std::timespec& b)
     return a.tv_sec < b.tv_sec || (a.tv_sec == b.tv_sec && a.tv_nsec <= b.tv_nsec);
 }
 
-int runOnce(MonitorList& monitors, Console& console, bool json)
+// SIGINT and SIGTERM end the program as they do by default; during a command, they first end
+// its process group.
+int runOnce(MonitorList& monitors, Console& console, bool json, std::chrono::milliseconds timeout)
 {
+    CommandGroups groups(std::chrono::seconds(1), timeout);
+    CommandHost commands(tvpolicy::systemHost(), groups, CommandHost::Stops::endProgram);
+    tvpolicy::ScopedHost scope(commands);
     bool allTrue = true;
     for (auto& monitor : monitors) {
-        allTrue = runAndPrint(*monitor, console, json) && allTrue;
+        allTrue = runAndPrint(*monitor, console, json, commands) && allTrue;
     }
     return allTrue ? exitPassed : exitFailed;
 }
 
 // Runs every due monitor in document order, then sleeps until the next one is due. A monitor
 // without a positive period runs once only. Stops after `count` runs (0: no limit), when no
-// monitor is left to run, or on SIGINT/SIGTERM, always between two runs.
-int runScheduled(MonitorList& monitors, long count, bool json, Console& console)
+// monitor is left to run, or on SIGINT/SIGTERM: between two runs, or during a check's command,
+// which is then ended with its process group.
+int runScheduled(MonitorList& monitors, long count, bool json, std::chrono::milliseconds timeout, Console& console)
 {
     StopSignals stop;
+    CommandGroups groups(std::chrono::seconds(1), timeout);
+    CommandHost commands(tvpolicy::systemHost(), groups, CommandHost::Stops::endCommand, stop.wakeDescriptor());
+    tvpolicy::ScopedHost scope(commands);
     std::vector<Monitor*> schedule;
     for (auto& monitor : monitors) {
         schedule.push_back(monitor.get());
@@ -88,7 +106,7 @@ int runScheduled(MonitorList& monitors, long count, bool json, Console& console)
                 ++it;
                 continue;
             }
-            allTrue = runAndPrint(*monitor, console, json) && allTrue;
+            allTrue = runAndPrint(*monitor, console, json, commands, &stop) && allTrue;
             if ((count > 0 && ++runs >= count) || stop.stopRequested()) {
                 return ending();
             }
@@ -118,6 +136,7 @@ CommandAction setupMonitor(CLI::App& app)
         bool strict = false;
         bool json = false;
         long count = 0;
+        double commandTimeout = 60;
     };
     auto options = std::make_shared<Options>();
     app.add_option("FILE", options->file, "A document of Monitor elements, or - for standard input")->required();
@@ -141,6 +160,7 @@ CommandAction setupMonitor(CLI::App& app)
         ->excludes(once);
     app.add_flag("--json", options->json,
                  "Print one JSON object per run (time, id, status, each check performed and why a false status)");
+    addCommandTimeout(app, options->commandTimeout);
 
     return [options](Console& console) -> int {
         std::optional<std::string> text = loadXmlDocument(console, "monitor", options->file);
@@ -163,8 +183,9 @@ CommandAction setupMonitor(CLI::App& app)
             console.err() << "tvpolicy monitor: " << options->file << " holds no Monitor element\n";
             return exitUsage;
         }
-        return options->once ? runOnce(monitors, console, options->json)
-                             : runScheduled(monitors, options->count, options->json, console);
+        const std::chrono::milliseconds timeout = commandTimeout(options->commandTimeout);
+        return options->once ? runOnce(monitors, console, options->json, timeout)
+                             : runScheduled(monitors, options->count, options->json, timeout, console);
     };
 }
 

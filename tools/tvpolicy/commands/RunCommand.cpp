@@ -23,11 +23,11 @@
 #include "commands/Command.h"
 #include "io/TeeStreamBuf.h"
 #include "io/TerminalText.h"
-#include "policy/BoundedCommandHost.h"
 #include "policy/DescribedHost.h"
 #include "policy/DocumentFile.h"
 #include "policy/PolicyInput.h"
 #include "policy/PolicyNotices.h"
+#include "process/CommandHost.h"
 #include "report/HtmlReport.h"
 #include "report/JunitReport.h"
 #include "report/PolicyReport.h"
@@ -110,15 +110,21 @@ std::vector<std::string> linesOf(const std::string& text)
     return lines;
 }
 
+// The form of the results: --format, else JSON with --json or an --output FILE named *.json.
+std::string formatOf(const RunOptions& options)
+{
+    if (!options.format.empty()) {
+        return options.format;
+    }
+    bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
+    return options.json || jsonName ? "json" : "text";
+}
+
 // Where the results go and in which form: a file (atomically) or standard output.
 int deliver(const RunOptions& options, const Json& report, const std::string& trace, Console& console)
 {
     bool toFile = !options.output.empty();
-    std::string format = options.format;
-    if (format.empty()) {
-        bool jsonName = options.output.size() > 5 && options.output.compare(options.output.size() - 5, 5, ".json") == 0;
-        format = options.json || (toFile && jsonName) ? "json" : "text";
-    }
+    std::string format = formatOf(options);
     TextStyle style{!toFile && colourWanted(console.outFd(), options.noColor), options.trace || console.libraryShown()};
     std::ostringstream body;
     if (format == "json") {
@@ -166,7 +172,32 @@ int writeReports(const RunOptions& options, const Json& report, const std::strin
     return exitPassed;
 }
 
-int evaluate(const RunOptions& options, Console& console, const BoundedCommandHost* commands);
+int evaluate(const RunOptions& options, Console& console, const CommandHost* commands);
+
+// A policy file that could not be read, for a reader of JSON results: the cause that standard
+// error gave first, and the library's own message (its advice about network settings
+// included, since it is the library's) in a field of its own. Text results add nothing to
+// what standard error said.
+int reportUnreadable(const RunOptions& options, const PolicyReadFailure& failure, int status, Console& console)
+{
+    if (formatOf(options) != "json") {
+        return status;
+    }
+    Json report = {{"policy", nullptr}, {"result", "ERROR"}, {"passed", false}, {"error", failure.cause}};
+    report["libraryMessage"] = failure.libraryMessage.empty() ? Json(nullptr) : Json(failure.libraryMessage);
+    report["exitStatus"] = status;
+    report["source"] = {{"path", options.source}};
+    std::string text = report.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    if (options.output.empty()) {
+        console.out() << text;
+        return status;
+    }
+    std::string why;
+    if (!writeFileAtomically(options.output, text, why)) {
+        console.err() << "tvpolicy run: the results were not saved: " << why << '\n';
+    }
+    return status;
+}
 
 // Two outputs named alike would overwrite each other: whichever came last would win.
 bool sameFile(const std::string& a, const std::string& b)
@@ -195,8 +226,8 @@ int runPolicy(const RunOptions& options, Console& console)
         }
     }
     if (options.hostDescription.empty()) {
-        BoundedCommandHost bounded(tvpolicy::systemHost(),
-                                   std::chrono::milliseconds(static_cast<long long>(options.commandTimeout * 1000)));
+        CommandGroups groups(std::chrono::seconds(1), commandTimeout(options.commandTimeout));
+        CommandHost bounded(tvpolicy::systemHost(), groups, CommandHost::Stops::endProgram);
         tvpolicy::ScopedHost scope(bounded);
         return evaluate(options, console, &bounded);
     }
@@ -211,7 +242,7 @@ int runPolicy(const RunOptions& options, Console& console)
     return evaluate(options, console, nullptr);
 }
 
-int evaluate(const RunOptions& options, Console& console, const BoundedCommandHost* commands)
+int evaluate(const RunOptions& options, Console& console, const CommandHost* commands)
 {
     const auto started = std::chrono::system_clock::now();
     const auto clock = std::chrono::steady_clock::now();
@@ -219,11 +250,12 @@ int evaluate(const RunOptions& options, Console& console, const BoundedCommandHo
 
     std::string bytes;
     int unread = exitUsage;
-    std::unique_ptr<Policy> policy = isAddress(options.source)
-                                         ? fetchPolicy(options, console, bytes, unread)
-                                         : readPolicy(options.source, options.maxSizeMB << 20, "run", console, bytes);
+    PolicyReadFailure failure;
+    std::unique_ptr<Policy> policy = isAddress(options.source) ? fetchPolicy(options, console, bytes, unread)
+                                                               : readPolicy(options.source, options.maxSizeMB << 20,
+                                                                            "run", console, bytes, &failure);
     if (!policy) {
-        return unread;
+        return isAddress(options.source) ? unread : reportUnreadable(options, failure, unread, console);
     }
 
     // An include that cannot be read ends the run, as it ends the agent; the CLI says why and
@@ -277,7 +309,7 @@ int evaluate(const RunOptions& options, Console& console, const BoundedCommandHo
     }
     Json report = reportPolicy(*policy, passed, progress.announced(), notices);
     if (commands != nullptr) {
-        commands->explainTimeouts(report);
+        explainTimeouts(report, commands->timeouts());
     }
     report["exitStatus"] = status;
     report["run"] = runRecord(started, clock);
@@ -315,12 +347,7 @@ CommandAction setupRun(CLI::App& app)
     app.add_option("--host", options->hostDescription,
                    "Evaluate against the host that the JSON document FILE describes, not this computer")
         ->option_text("FILE");
-    app.add_option("--command-timeout", options->commandTimeout,
-                   "End a command that a check runs (VersionFromScript), with its process group, after S seconds; "
-                   "the check then fails saying so")
-        ->option_text("S")
-        ->capture_default_str()
-        ->check(CLI::Range(0.001, 86400.0));
+    addCommandTimeout(app, options->commandTimeout);
     app.add_option("--max-size", options->maxSizeMB, "Refuse a policy larger than N MB before reading it")
         ->capture_default_str()
         ->check(CLI::Range(std::size_t{1}, std::size_t{4096}));

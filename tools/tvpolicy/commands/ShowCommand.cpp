@@ -1,6 +1,7 @@
 // tvpolicy show config|status|profile FILE [--json]: what the agent reads from a document the
 // server sends, for administrators checking it.
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -14,6 +15,7 @@
 #include <tvpolicy/agent/WifiConfigurationProfile.h>
 
 #include "commands/Command.h"
+#include "policy/AgentDocumentScan.h"
 #include "policy/DocumentFile.h"
 
 namespace tvpolicy::cli {
@@ -170,15 +172,27 @@ CommandAction setupShow(CLI::App& app)
             return exitUsage;
         }
         Json shown;
+        // A profile is the first <profile> wherever it stands (a status reply holds one), as the
+        // status reader finds it; a document without one is read as a profile itself.
+        std::shared_ptr<WifiConfigurationProfile> profile;
+        if (options->kind == "profile") {
+            profile = AgentStatusXML::parse(text)->getWifiProfile();
+            if (!profile) {
+                profile = WifiConfigurationProfile::parse(text);
+            }
+        }
         if (options->kind == "config") {
             shown = configJson(*AgentConfigXML::parse(text));
         } else if (options->kind == "status") {
             shown = statusJson(*AgentStatusXML::parse(text), options->reveal);
-        } else if (auto profile = WifiConfigurationProfile::parse(text)) {
+        } else if (profile) {
             shown = profileJson(*profile, options->reveal);
         } else {
             console.err() << "tvpolicy show: " << options->file << " holds no profile element\n";
             return exitUsage;
+        }
+        for (const Notice& notice : agentDocumentNotices(options->kind, text)) {
+            console.err() << "tvpolicy show: warning: " << describe(notice) << '\n';
         }
         if (options->json) {
             console.out() << shown.dump(2) << '\n';

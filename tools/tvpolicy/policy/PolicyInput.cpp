@@ -45,39 +45,53 @@ std::string libraryMessage(const Policy& policy)
 std::string sourceName(const std::string& source) { return source == "-" ? "standard input" : source; }
 
 std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxBytes, const std::string& command,
-                                   Console& console, std::string& bytes)
+                                   Console& console, std::string& bytes, PolicyReadFailure* failure)
 {
     DocumentRead input = readDocument(source, maxBytes);
     // The policy reader has a limit of its own, which --max-size cannot raise: said as such, not
     // as a document that is not XML.
     constexpr std::size_t readerLimit = std::size_t{16} << 20;
     if (input.ok && input.text.size() > readerLimit) {
-        console.err() << "tvpolicy " << command << ": cannot read "
-                      << (source == "-" ? std::string("standard input") : "'" + source + "'") << ": it is "
-                      << input.text.size() << " bytes, more than the 16 MB a policy may have (the policy reader's "
-                      << "own limit, which --max-size cannot raise)\n";
+        std::string cause = "cannot read " + (source == "-" ? std::string("standard input") : "'" + source + "'") +
+                            ": it is " + std::to_string(input.text.size()) +
+                            " bytes, more than the 16 MB a policy may have (the policy reader's own limit, which "
+                            "--max-size cannot raise)";
+        console.err() << "tvpolicy " << command << ": " << cause << '\n';
+        if (failure != nullptr) {
+            failure->cause = cause;
+        }
         return nullptr;
     }
-    return parsePolicy(std::move(input), source, command, console, bytes);
+    return parsePolicy(std::move(input), source, command, console, bytes, failure);
 }
 
 std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& source, const std::string& command,
-                                    Console& console, std::string& bytes)
+                                    Console& console, std::string& bytes, PolicyReadFailure* failure)
 {
     const std::string prefix = "tvpolicy " + command + ": ";
     if (!input.ok && !input.directory) {
         console.err() << prefix << input.error << '\n';
+        if (failure != nullptr) {
+            failure->cause = input.error;
+        }
         return nullptr;
     }
     std::string error;
-    std::unique_ptr<Policy> policy = input.directory ? nullptr : parsePolicy(input.text, sourceName(source), error);
+    std::string fullMessage;
+    std::unique_ptr<Policy> policy =
+        input.directory ? nullptr : parsePolicy(input.text, sourceName(source), error, &fullMessage);
     if (input.directory) {
         std::unique_ptr<Policy> empty(Policy::parseFromString(input.text, true));
         error = sourceName(source) + ": is a directory\n" + libraryMessage(*empty);
+        fullMessage = empty->getFatalErrorMsg();
     }
     if (!policy) {
         // The cause is a line of its own; the library's message after it keeps its own line breaks.
         const std::size_t first = error.find('\n');
+        if (failure != nullptr) {
+            failure->cause = error.substr(0, first);
+            failure->libraryMessage = fullMessage;
+        }
         console.err() << prefix << error.substr(0, first) << '\n';
         if (first != std::string::npos) {
             console.err() << prefix << error.substr(first + 1) << '\n';
@@ -88,11 +102,15 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
     return policy;
 }
 
-std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error)
+std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error,
+                                    std::string* fullMessage)
 {
     std::unique_ptr<Policy> policy(Policy::parseFromString(text, true));
     if (policy->getFatalParseError()) {
         error = name + ": " + causeOf(*policy, text) + '\n' + libraryMessage(*policy);
+        if (fullMessage != nullptr) {
+            *fullMessage = policy->getFatalErrorMsg();
+        }
         return nullptr;
     }
     if (policy->getRootElement() != "policy") {

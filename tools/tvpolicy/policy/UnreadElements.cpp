@@ -238,13 +238,14 @@ private:
     std::string monitor;
 };
 
-// Reads `text` with `handler`; external entities and DTDs are never fetched.
-void scanDocument(const std::string& text, DefaultHandler& handler)
+}  // namespace
+
+void scanDocument(const std::string& text, xercesc::DefaultHandler& handler, bool namespaces)
 {
     XMLPlatformUtils::Initialize();
     {
         std::unique_ptr<SAX2XMLReader> reader(XMLReaderFactory::createXMLReader());
-        reader->setFeature(XMLUni::fgSAX2CoreNameSpaces, false);
+        reader->setFeature(XMLUni::fgSAX2CoreNameSpaces, namespaces);
         reader->setFeature(XMLUni::fgXercesLoadExternalDTD, false);
         reader->setFeature(XMLUni::fgXercesDisableDefaultEntityResolution, true);
         reader->setContentHandler(&handler);
@@ -258,8 +259,6 @@ void scanDocument(const std::string& text, DefaultHandler& handler)
     }
     XMLPlatformUtils::Terminate();
 }
-
-}  // namespace
 
 MonitorScan scanMonitors(const std::string& text)
 {

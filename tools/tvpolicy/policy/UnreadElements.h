@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include <xercesc/sax2/DefaultHandler.hpp>
+
 #include "policy/PolicyNotices.h"
 
 namespace tvpolicy::cli {
@@ -13,6 +15,10 @@ namespace tvpolicy::cli {
 /// reader knows (<sectoin>, <Section>: did you mean <section>?). `text` is a document that
 /// parsed as a policy; its other elements are the sections' business.
 std::vector<Notice> unreadElements(const std::string& text);
+
+/// Reads `text` with `handler` (with namespaces: the local names and URIs), to its end or its
+/// first error; external entities and DTDs are never fetched.
+void scanDocument(const std::string& text, xercesc::DefaultHandler& handler, bool namespaces = false);
 
 /// The name of `candidates` closest to `word` (same letters in another case, or at most two
 /// letters changed, added, dropped or swapped); empty when none is.

@@ -125,8 +125,9 @@ void itemHtml(const Json& item, std::ostream& html)
     bool option = item["kind"] == "option";
     unsigned status = item["status"].get<unsigned>();
     bool checkedNothing = item.contains("notEvaluatedBecause");
-    // A section that checked nothing is shown as skipped, never as passed.
-    unsigned shown = checkedNothing ? 0 : status;
+    // A section that checked nothing is shown as skipped, never as passed; an option whose status
+    // is not its outcome, by its outcome (a failure that does not count as a warning).
+    unsigned shown = checkedNothing ? 0 : item.contains("statusNote") ? (item["passed"].get<bool>() ? 1 : 5) : status;
     html << "<section class=\"item " << toneOf(shown) << "\"><h2 class=\"head\"><span>"
          << (option ? "Option" : "Section") << " &ldquo;" << escapeHtml(item["name"].get<std::string>())
          << "&rdquo;</span><span class=\"status\">" << markOf(shown) << ' '
@@ -134,6 +135,9 @@ void itemHtml(const Json& item, std::ostream& html)
     if (checkedNothing) {
         html << "<p class=\"meta\">not evaluated: " << escapeHtml(item["notEvaluatedBecause"].get<std::string>())
              << "</p>";
+    }
+    if (item.contains("statusNote")) {
+        html << "<p class=\"meta\">" << escapeHtml(item["statusNote"].get<std::string>()) << "</p>";
     }
     if (!option && !item["group"].get<std::string>().empty()) {
         html << "<p class=\"meta\">group " << escapeHtml(item["group"].get<std::string>())

@@ -81,6 +81,8 @@ struct Weight {
     bool decides = false;
     bool enforced = true;
     std::string rule;  // the deciding rule in words, for the failure message
+    // Why a failed section inside an option did not decide the verdict.
+    std::string notDeciding = "it did not decide the verdict, its option passed without it";
 };
 
 void skip(DOMDocument* document, DOMElement* testCase, const std::string& message, Totals& totals)
@@ -104,8 +106,14 @@ void addCases(DOMDocument* document, DOMElement* suite, const Json& item, const 
 {
     if (item["kind"] == "option") {
         unsigned before = totals.failures;
+        Weight inside = weight;
+        if (item.contains("statusNote") && !item["passed"].get<bool>()) {
+            inside.notDeciding =
+                "it did not decide the verdict: its option failed, but an option none of whose "
+                "sections is in a group counts as skipped, and does not fail the policy";
+        }
         for (const Json& section : item["sections"]) {
-            addCases(document, suite, section, className + "." + item["name"].get<std::string>(), weight, totals);
+            addCases(document, suite, section, className + "." + item["name"].get<std::string>(), inside, totals);
         }
         if (weight.decides && weight.enforced && totals.failures == before) {
             // No section of the option failed on its own, yet the option did: the option is the case.
@@ -132,8 +140,7 @@ void addCases(DOMDocument* document, DOMElement* suite, const Json& item, const 
         } else if (failing || own) {
             skip(document, testCase,
                  item["statusText"].get<std::string>() +
-                     (weight.decides ? "; the verdict is not enforced (audit only)"
-                                     : "; it did not decide the verdict, its option passed without it"),
+                     (weight.decides ? "; the verdict is not enforced (audit only)" : "; " + weight.notDeciding),
                  totals);
         } else if (status == 0 || status == 4) {
             skip(document, testCase, item["statusText"].get<std::string>(), totals);

@@ -7,6 +7,7 @@
 #include <tvpolicy/policy/Task.h>
 #include <tvpolicy/policy/TaskResponse.h>
 
+#include "process/CommandHost.h"
 #include "report/PolicyReport.h"
 
 namespace tvpolicy::cli {
@@ -25,7 +26,11 @@ std::string kindOf(Task& task)
 
 std::string described(const MonitorCheck& check)
 {
-    return check.kind + (check.message.empty() ? std::string() : " (" + check.message + ")");
+    std::string details = check.message;
+    if (!check.cause.empty()) {
+        details += (details.empty() ? "" : ": ") + check.cause;
+    }
+    return check.kind + (details.empty() ? std::string() : " (" + details + ")");
 }
 
 // The next run time one period from now; a period from a hostile document saturates the clock.
@@ -48,15 +53,19 @@ std::timespec nextRun(std::chrono::system_clock::time_point now, std::int64_t pe
 
 }  // namespace
 
-MonitorRun performMonitor(com::torvane::policy::Monitor& monitor)
+MonitorRun performMonitor(com::torvane::policy::Monitor& monitor, const CommandHost* commands)
 {
     MonitorRun run;
     run.id = monitor.getID();
     run.prohibit = monitor.getProhibit();
     bool allPassed = !monitor.getTasks().empty();
     for (Task* task : monitor.getTasks()) {
+        const std::size_t timeoutsBefore = commands != nullptr ? commands->timeoutCount() : 0;
         std::unique_ptr<TaskResponse> response(task->perform());
-        MonitorCheck check{kindOf(*task), response && response->passed, response ? response->message : ""};
+        MonitorCheck check{kindOf(*task), response && response->passed, response ? response->message : "", ""};
+        if (commands != nullptr && commands->timeoutCount() > timeoutsBefore) {
+            check.cause = commands->timeouts().back().why;
+        }
         run.checks.push_back(check);
         if (!check.passed) {
             allPassed = false;
@@ -96,7 +105,11 @@ nlohmann::ordered_json MonitorRun::toJson() const
 {
     nlohmann::ordered_json checkList = nlohmann::ordered_json::array();
     for (const MonitorCheck& check : checks) {
-        checkList.push_back({{"type", check.kind}, {"passed", check.passed}, {"message", check.message}});
+        nlohmann::ordered_json entry = {{"type", check.kind}, {"passed", check.passed}, {"message", check.message}};
+        if (!check.cause.empty()) {
+            entry["cause"] = check.cause;
+        }
+        checkList.push_back(entry);
     }
     nlohmann::ordered_json line = {
         {"time", isoTime(when)}, {"id", id}, {"status", compliant}, {"prohibit", prohibit}, {"checks", checkList}};

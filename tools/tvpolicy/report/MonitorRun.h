@@ -12,11 +12,14 @@ class Monitor;
 
 namespace tvpolicy::cli {
 
+class CommandHost;
+
 /// What one check of a monitor found in one run.
 struct MonitorCheck {
     std::string kind;  // the element's name (ProcessExists)
     bool passed = false;
     std::string message;
+    std::string cause;  // why it failed when its message does not say (a command that timed out)
 };
 
 /// One run of a monitor, with what each performed check found. The monitor's tasks are
@@ -38,6 +41,8 @@ struct MonitorRun {
     nlohmann::ordered_json toJson() const;
 };
 
-MonitorRun performMonitor(com::torvane::policy::Monitor& monitor);
+/// `commands`, when given, is the host the checks' commands run through: a check during which one
+/// timed out gets that as its cause.
+MonitorRun performMonitor(com::torvane::policy::Monitor& monitor, const CommandHost* commands = nullptr);
 
 }  // namespace tvpolicy::cli

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <functional>
 #include <iterator>
 #include <map>
 
@@ -159,6 +160,42 @@ std::string nothingChecked(Section& section)
     return allUnread ? "no attribute of its checks is one that they read, so they were given nothing to check" : "";
 }
 
+// An option none of whose sections is in a group keeps the library's status 0 (skipped) whatever
+// its sections find: it is shown by its outcome, with why its status says otherwise. A failed one
+// is skipped for the policy too, so its failure does not count.
+void explainUngroupedOption(Option& option, Json& item)
+{
+    const Json& sections = item["sections"];
+    if (option.getStatus() != 0) {
+        return;
+    }
+    if (sections.empty()) {
+        item["statusText"] = "not evaluated";
+        item["evaluated"] = false;
+        item["notEvaluatedBecause"] = "it holds no section";
+        return;
+    }
+    std::string passedBy;
+    for (const Json& child : sections) {
+        bool grouped = !child.value("group", std::string()).empty();
+        if (grouped && child.value("primary", false)) {
+            return;  // a group was evaluated: status 0 then means its sections were skipped
+        }
+        if (!grouped && child.value("primary", false) && child["passed"].get<bool>() && passedBy.empty()) {
+            passedBy = child["name"].get<std::string>();
+        }
+    }
+    const std::string why =
+        "the library gives status 0 (skipped) to an option none of whose sections is in a group, whatever they find";
+    if (option.passed()) {
+        item["statusText"] = "passed";
+        item["statusNote"] = why + "; it passed through section '" + passedBy + "'";
+    } else {
+        item["statusText"] = "failed, not counted";
+        item["statusNote"] = why + "; a skipped option does not fail the policy, so this failure does not count";
+    }
+}
+
 Json itemOf(const std::string& key, Section& section, Json& counts)
 {
     bool option = section.getType() == "Option";
@@ -177,6 +214,7 @@ Json itemOf(const std::string& key, Section& section, Json& counts)
         for (auto& [childKey, child] : asOption.getSections()) {
             item["sections"].push_back(itemOf(childKey, *child, counts));
         }
+        explainUngroupedOption(asOption, item);
     } else {
         item["group"] = section.getGroup();
         item["primary"] = section.isPrimary();
@@ -339,6 +377,10 @@ void printItem(const Json& item, std::ostream& out, const std::string& indent, c
     if (item.contains("notEvaluatedBecause")) {
         tone = Tone::warn;
         words = toned(words, tone, style.colour) + " (" + item["notEvaluatedBecause"].get<std::string>() + ")";
+        skipped = true;
+    } else if (item.contains("statusNote")) {
+        tone = item["passed"].get<bool>() ? Tone::pass : Tone::warn;
+        words = toned(words, tone, style.colour) + " (" + item["statusNote"].get<std::string>() + ")";
         skipped = true;
     }
     out << indent << (option ? "Option" : "Section") << " \"" << item["name"].get<std::string>()
@@ -544,6 +586,20 @@ std::string verdictLine(const Json& report, const TextStyle& style)
     note("unknown-attribute", "attribute ignored", "attributes ignored");
     note("included-not-evaluated", "included section not evaluated", "included sections not evaluated");
     note("no-sections", "policy without sections", "policies without sections");
+    unsigned uncounted = 0;
+    unsigned emptyOptions = 0;
+    for (const Json& item : report["items"]) {
+        uncounted += item.value("statusText", std::string()) == "failed, not counted" ? 1 : 0;
+        emptyOptions += item["kind"] == "option" && item.contains("notEvaluatedBecause") ? 1 : 0;
+    }
+    if (uncounted > 0) {
+        line +=
+            "; " + std::to_string(uncounted) + (uncounted == 1 ? " failed option" : " failed options") + " not counted";
+    }
+    if (emptyOptions > 0) {
+        line +=
+            "; " + std::to_string(emptyOptions) + (emptyOptions == 1 ? " option" : " options") + " without sections";
+    }
     line += ")";
     if (report["switches"]["auditOnly"].get<bool>()) {
         line += " [audit only]";
@@ -585,6 +641,38 @@ nlohmann::ordered_json runRecord(std::chrono::system_clock::time_point started,
             {"hostName", Machine::getHostName()},
             {"os", Machine::getOSString()},
             {"osVersion", Machine::getOSVersion()}};
+}
+
+void explainTimeouts(Json& report, const std::vector<CommandTimeout>& timeouts)
+{
+    if (timeouts.empty()) {
+        return;
+    }
+    std::function<void(Json&)> visit = [&](Json& node) {
+        if (node.is_array()) {
+            for (auto& child : node) {
+                visit(child);
+            }
+            return;
+        }
+        if (!node.is_object()) {
+            return;
+        }
+        if (node.value("element", std::string()) == "VersionFromScript" && node.contains("attributes")) {
+            std::string script = node["attributes"].value("script", std::string());
+            for (const CommandTimeout& timeout : timeouts) {
+                if (timeout.command == script) {
+                    node["cause"] = timeout.why;
+                }
+            }
+        }
+        for (const char* key : {"items", "sections", "tasks", "terms"}) {
+            if (node.contains(key)) {
+                visit(node[key]);
+            }
+        }
+    };
+    visit(report);
 }
 
 }  // namespace tvpolicy::cli

@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "policy/PolicyNotices.h"
+#include "process/CommandHost.h"
 
 class Policy;
 
@@ -19,6 +20,9 @@ namespace tvpolicy::cli {
 /// policy's switches, the warnings, counts and the overall result.
 nlohmann::ordered_json reportPolicy(Policy& policy, bool passed, unsigned announced,
                                     const std::vector<Notice>& notices);
+
+/// Adds a "cause" to every VersionFromScript check of `report` whose script timed out.
+void explainTimeouts(nlohmann::ordered_json& report, const std::vector<CommandTimeout>& timeouts);
 
 /// How the report is shown to a person.
 struct TextStyle {

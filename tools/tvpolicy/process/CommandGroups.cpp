@@ -1,10 +1,11 @@
-#include "agent/CommandGroups.h"
+#include "process/CommandGroups.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -14,7 +15,7 @@
 
 extern char** environ;
 
-namespace tvpolicy::cli::agent {
+namespace tvpolicy::cli {
 
 namespace {
 
@@ -122,7 +123,7 @@ private:
     bool reaped_ = false;
 };
 
-CommandGroups::CommandGroups(milliseconds grace) : grace_(grace)
+CommandGroups::CommandGroups(milliseconds grace, milliseconds timeout) : grace_(grace), timeout_(timeout)
 {
     int fds[2];
     if (::pipe2(fds, O_CLOEXEC | O_NONBLOCK) != 0) {
@@ -142,26 +143,34 @@ void CommandGroups::end()
 
 std::optional<std::string> CommandGroups::output(const std::string& command, std::size_t keep)
 {
-    std::string text;
-    if (!run(command, &text, keep)) {
+    Outcome outcome = run(command, true, keep);
+    if (outcome.ending != Ending::finished) {
         return std::nullopt;
     }
-    return text;
+    return std::move(outcome.output);
 }
 
-std::optional<int> CommandGroups::status(const std::string& command) { return run(command, nullptr, 0); }
-
-std::optional<int> CommandGroups::run(const std::string& command, std::string* output, std::size_t keep)
+std::optional<int> CommandGroups::status(const std::string& command)
 {
-    if (ended_) {
+    Outcome outcome = run(command, false);
+    if (outcome.ending != Ending::finished) {
         return std::nullopt;
+    }
+    return outcome.waitStatus;
+}
+
+CommandGroups::Outcome CommandGroups::run(const std::string& command, bool readOutput, std::size_t keep, int endOn)
+{
+    Outcome outcome;
+    if (ended_) {
+        return outcome;
     }
     OwnedFd outRead;
     OwnedFd outWrite;
-    if (output != nullptr) {
+    if (readOutput) {
         int fds[2];
         if (::pipe2(fds, O_CLOEXEC) != 0) {
-            return std::nullopt;
+            return outcome;
         }
         outRead.reset(fds[0]);
         outWrite.reset(fds[1]);
@@ -172,33 +181,42 @@ std::optional<int> CommandGroups::run(const std::string& command, std::string* o
         const char* argv[] = {"sh", "-c", command.c_str(), nullptr};
         if (::posix_spawn(&pid, "/bin/sh", settings.actions(), settings.attributes(), const_cast<char* const*>(argv),
                           environ) != 0) {
-            return std::nullopt;
+            return outcome;
         }
     }
     Child child(pid, grace_);
     outWrite.reset();
+    const bool bounded = timeout_.count() > 0;
+    const auto deadline = std::chrono::steady_clock::now() + timeout_;
 
-    // While the output is open, the wait is for it or for the end; once it has closed (or when
-    // there is none), the shell's exit is looked for in slices that grow from 1 ms.
+    // While the output is open, the wait is for it, the end or the deadline; once it has closed
+    // (or when there is none), the shell's exit is looked for in slices that grow from 1 ms.
     char buffer[16384];
     milliseconds slice(1);
     for (;;) {
         const bool reading = static_cast<bool>(outRead);
-        struct pollfd waits[2] = {{endRead_.get(), POLLIN, 0}, {outRead.get(), POLLIN, 0}};
-        int ready = ::poll(waits, 2, reading ? -1 : static_cast<int>(slice.count()));
-        if (ready < 0 && errno != EINTR) {
-            child.endGroup();
-            return std::nullopt;
+        milliseconds wait = reading ? milliseconds(-1) : slice;
+        if (bounded) {
+            auto left = std::chrono::duration_cast<milliseconds>(deadline - std::chrono::steady_clock::now());
+            if (left.count() <= 0) {
+                child.endGroup();
+                outcome.ending = Ending::timedOut;
+                return outcome;
+            }
+            wait = wait.count() < 0 ? left : std::min(wait, left);
         }
-        if (waits[0].revents != 0) {
+        struct pollfd waits[3] = {{endRead_.get(), POLLIN, 0}, {endOn, POLLIN, 0}, {outRead.get(), POLLIN, 0}};
+        int ready = ::poll(waits, 3, static_cast<int>(wait.count()));
+        if ((ready < 0 && errno != EINTR) || waits[0].revents != 0 || waits[1].revents != 0) {
             child.endGroup();
-            return std::nullopt;
+            outcome.ending = Ending::ended;
+            return outcome;
         }
-        if (reading && waits[1].revents != 0) {
+        if (reading && waits[2].revents != 0) {
             ssize_t got = ::read(outRead.get(), buffer, sizeof buffer);
             if (got > 0) {
-                std::size_t room = keep - std::min(keep, output->size());
-                output->append(buffer, std::min(room, static_cast<std::size_t>(got)));
+                std::size_t room = keep - std::min(keep, outcome.output.size());
+                outcome.output.append(buffer, std::min(room, static_cast<std::size_t>(got)));
             } else if (got == 0 || errno != EINTR) {
                 outRead.reset();
             }
@@ -206,11 +224,13 @@ std::optional<int> CommandGroups::run(const std::string& command, std::string* o
         }
         if (!reading) {
             if (child.exited()) {
-                return child.reap();
+                outcome.waitStatus = child.reap();
+                outcome.ending = Ending::finished;
+                return outcome;
             }
             slice = std::min(slice * 2, longestSlice);
         }
     }
 }
 
-}  // namespace tvpolicy::cli::agent
+}  // namespace tvpolicy::cli
