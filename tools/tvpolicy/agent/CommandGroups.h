@@ -36,7 +36,7 @@ public:
     void end();
     bool ended() const { return ended_; }
 
-    static constexpr std::size_t defaultKeep = 1024 * 1024;
+    static constexpr std::size_t defaultKeep = std::size_t{1024} * 1024;
 
 private:
     class Child;
