@@ -70,6 +70,7 @@ double runFind(const std::string& dir, const std::string& name)
 {
     std::vector<std::string> args = {"find", dir, "-name", name};
     std::vector<char*> argv;
+    argv.reserve(args.size() + 1);
     for (std::string& arg : args) {
         argv.push_back(arg.data());
     }

@@ -27,6 +27,7 @@ double runCli(const std::vector<std::string>& arguments, const std::string& outp
     std::vector<std::string> words{TVPOLICY_CLI};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;
+    argv.reserve(words.size() + 1);
     for (std::string& word : words) {
         argv.push_back(word.data());
     }

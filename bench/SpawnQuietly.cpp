@@ -29,6 +29,7 @@ pid_t spawnWithError(const std::vector<std::string>& argv, int errorFd)
     }
     pid_t pid = -1;
     std::vector<char*> args;
+    args.reserve(argv.size() + 1);
     for (const std::string& arg : argv) {
         args.push_back(const_cast<char*>(arg.c_str()));
     }

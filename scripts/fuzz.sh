@@ -10,7 +10,8 @@
 #   scripts/fuzz.sh --coverage         replays each corpus with Clang's source-based coverage and
 #                                      prints, per parser file, the lines and branches it reaches
 #
-# Fuzzing builds in build-fuzz/ (or $BUILD_DIR) with ASan and UBSan, FUZZ_JOBS targets at once
+# Fuzzing builds in build-fuzz/ (or $BUILD_DIR, which may be a build configured with
+# -DTVPOLICY_BUILD_FUZZ=ON for more than fuzzing) with ASan and UBSan, FUZZ_JOBS targets at once
 # (two by default), and ends with a table: executions, exec/s, libFuzzer's coverage counters
 # reached, new inputs and findings per target. A finding fails the run; its reproducer is
 # printed (base64) and left under $FUZZ_ARTIFACTS (default build-fuzz/findings/). New inputs
@@ -58,8 +59,19 @@ else
   build_dir=${BUILD_DIR:-build-fuzz}
   extra=(-DTVPOLICY_FUZZ_COVERAGE=OFF)
 fi
-cmake -S . -B "$build_dir" -G Ninja -DCMAKE_CXX_COMPILER=clang++ "${launcher[@]}" -DTVPOLICY_BUILD_FUZZ=ON \
-  -DTVPOLICY_BUILD_TESTS=OFF "${extra[@]}" >/dev/null
+# A folder already configured for fuzzing is used as it is: CI's sanitizer build carries the
+# fuzzing instrumentation with its tests (BUILD_DIR=build-sanitize), and its fuzz targets are
+# built by then. Any other folder is configured here, for the fuzz targets alone.
+cache=$build_dir/CMakeCache.txt
+if ! grep -qs '^TVPOLICY_BUILD_FUZZ:BOOL=ON$' "$cache" ||
+   ! grep -qs "^TVPOLICY_FUZZ_COVERAGE:BOOL=${extra[0]#*=}\$" "$cache"; then
+  if [[ -f $cache ]]; then
+    echo "$build_dir is a build of another kind; fuzzing builds in a folder of its own (BUILD_DIR)" >&2
+    exit 2
+  fi
+  cmake -S . -B "$build_dir" -G Ninja -DCMAKE_CXX_COMPILER=clang++ "${launcher[@]}" -DTVPOLICY_BUILD_FUZZ=ON \
+    -DTVPOLICY_BUILD_TESTS=OFF "${extra[@]}" >/dev/null
+fi
 
 # The targets to run, as fuzz/CMakeLists.txt lists them: name, seed corpus, dictionary.
 mapfile -t lines < "$build_dir/fuzz-targets.txt"

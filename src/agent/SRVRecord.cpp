@@ -46,7 +46,7 @@ std::list<const SRVRecord*> SRVRecord::lookupMacOSX(const char* service, const c
         auto record =
             std::make_unique<SRVRecord>(answer.priority, answer.weight, std::move(answer.target), answer.port);
         records.push_back(record.get());
-        record.release();
+        static_cast<void>(record.release());  // the list holds it now
     }
     return records;
 }

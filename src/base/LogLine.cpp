@@ -13,7 +13,7 @@ namespace {
 
 // Lines are handed over once this much is gathered; a piece at least this long is written
 // through at once instead of being copied.
-constexpr std::size_t batchBytes = 64 * 1024;
+constexpr std::size_t batchBytes = std::size_t{64} * 1024;
 
 // The buffers of the standard streams as the program started, for telling a terminal.
 std::streambuf* const standardOut = std::cout.rdbuf();

@@ -53,7 +53,7 @@ public:
 
 private:
     // A piece at least this long is written through instead of being copied into the line.
-    static constexpr std::size_t spillBytes = 64 * 1024;
+    static constexpr std::size_t spillBytes = std::size_t{64} * 1024;
 
     // Writes what the line holds so far, then `text`, to the stream (after the lines gathered
     // before it).

@@ -141,7 +141,7 @@ void getAddressesFromVMXFile(const std::string& path, std::vector<std::string>& 
         return;
     }
     // VMX files are a few kilobytes; anything far beyond that is not one.
-    constexpr std::size_t limit = 4 * 1024 * 1024;
+    constexpr std::size_t limit = std::size_t{4} * 1024 * 1024;
     std::string text;
     tvpolicy::readBounded(fd.get(), limit, text);
     std::vector<tvpolicy::parse::VmxEntry> entries = tvpolicy::parse::vmxEntries(text);

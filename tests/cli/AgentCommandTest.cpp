@@ -194,6 +194,7 @@ TEST(AgentQueue, ResultsRefusedWithServiceUnavailableArriveLaterOnceEach)
     std::vector<std::string> stored = server.storedResults();
     ASSERT_EQ(stored.size(), 4u);
     std::vector<std::string> cycles;
+    cycles.reserve(stored.size());
     for (const std::string& body : stored) {
         cycles.push_back(Json::parse(body)["agent"]["cycle"].get<std::string>());
     }

@@ -16,7 +16,7 @@ TEST(FileSearch, WithoutStartPathSearchesFromTheRoot)
     ASSERT_TRUE(file.exists());
     ASSERT_EQ(file.getFileList().size(), 1u);
     const std::string found = file.getFileList().front();
-    EXPECT_EQ(found.rfind("/", 0), 0u) << found;
+    EXPECT_EQ(found.rfind('/', 0), 0u) << found;
     EXPECT_EQ(found.substr(found.size() - std::string("/os-release").size()), "/os-release") << found;
 }
 

@@ -193,8 +193,9 @@ int openSocket(int family, int type, unsigned port, bool connectIt = false)
     if (type == SOCK_STREAM) {
         ::listen(fd, 4);
     }
-    if (connectIt) {
-        ::connect(fd, reinterpret_cast<sockaddr*>(&address), length);
+    if (connectIt && ::connect(fd, reinterpret_cast<sockaddr*>(&address), length) != 0) {
+        ::close(fd);
+        return -1;
     }
     return fd;
 }

@@ -167,7 +167,7 @@ TEST_P(UnreadableIncludeTest, EndsTheProcess)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     SectionServer server;
-    std::string url = GetParam().rfind("/", 0) == 0 ? server.url(GetParam()) : GetParam();
+    std::string url = GetParam().rfind('/', 0) == 0 ? server.url(GetParam()) : GetParam();
     Section section(url);
     auto reader = newReader();
     EXPECT_EXIT(section.parse(reader.get()), testing::ExitedWithCode(1), "");

@@ -152,6 +152,7 @@ TEST(StreamSocket, ConnectsOnDescriptorsAbove1024)
     rlimit raised{std::max<rlim_t>(limit.rlim_cur, 1200), limit.rlim_max};
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &raised), 0);
     std::vector<Fd> filler;
+    filler.reserve(1100);
     for (int i = 0; i < 1100; ++i) {
         filler.emplace_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
     }

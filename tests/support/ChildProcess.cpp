@@ -24,6 +24,7 @@ void ChildProcess::spawn(const std::vector<std::string>& argv, bool captureOutpu
         throw std::runtime_error("cannot create a pipe for " + argv[0]);
     }
     std::vector<char*> args;
+    args.reserve(argv.size() + 1);
     for (const std::string& arg : argv) {
         args.push_back(const_cast<char*>(arg.c_str()));
     }

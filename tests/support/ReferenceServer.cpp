@@ -14,7 +14,7 @@ ReferenceServer::ReferenceServer(const std::vector<std::string>& arguments, cons
 {
     std::filesystem::create_directories(dir_.path() / "results");
     std::vector<std::string> argv = prefix;
-    for (std::string word :
+    for (const std::string& word :
          {std::string("/usr/bin/python3"), std::string(TVPOLICY_SOURCE_DIR) + "/examples/server/server.py",
           std::string("--port"), std::string("0"), std::string("--log"), (dir_.path() / "requests.jsonl").string(),
           std::string("--results-dir"), (dir_.path() / "results").string()}) {
@@ -94,6 +94,7 @@ std::vector<std::string> ReferenceServer::storedResults() const
     }
     std::sort(files.begin(), files.end());
     std::vector<std::string> bodies;
+    bodies.reserve(files.size());
     for (const auto& file : files) {
         bodies.push_back(readFile(file));
     }

@@ -50,6 +50,7 @@ CliResult runProgram(const std::vector<std::string>& argv, const std::string& in
     posix_spawn_file_actions_adddup2(&actions, err.fds[1], 2);
 
     std::vector<char*> args;
+    args.reserve(argv.size() + 1);
     for (const std::string& arg : argv) {
         args.push_back(const_cast<char*>(arg.c_str()));
     }

@@ -106,6 +106,7 @@ int wrongReadings(const std::function<bool(int)>& read)
     std::atomic<int> wrong{0};
     std::atomic<bool> go{false};
     std::vector<std::thread> threads;
+    threads.reserve(8);
     for (int t = 0; t < 8; ++t) {
         threads.emplace_back([&, t] {
             while (!go) {

@@ -144,9 +144,10 @@ TEST(HostilePolicy, TooManyAttributesAreRefused)
 
 TEST(HostilePolicy, OddBytesAreAParseErrorNotACrash)
 {
-    for (std::string body :
-         {std::string("<policy>\n<a>\xff\xfe\x00\x01</a></policy>", 30), std::string("<policy>\n\x00\x00</policy>", 21),
-          std::string("<policy name=\"\xc3\x28\">\n</policy>")}) {
+    // The first two end in a NUL byte too.
+    for (const std::string& body :
+         {std::string("<policy>\n<a>\xff\xfe\x00\x01</a></policy>\x00", 30),
+          std::string("<policy>\n\x00\x00</policy>\x00", 21), std::string("<policy name=\"\xc3\x28\">\n</policy>")}) {
         auto parsed = parsePolicy(body);
         EXPECT_TRUE(parsed.policy->getFatalParseError());
     }

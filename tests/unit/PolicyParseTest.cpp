@@ -22,6 +22,7 @@ using testing_support::parsePolicy;
 std::vector<std::string> keysOf(const std::map<std::string, Section*>& items)
 {
     std::vector<std::string> keys;
+    keys.reserve(items.size());
     for (const auto& entry : items) {
         keys.push_back(entry.first);
     }

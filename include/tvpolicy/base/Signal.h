@@ -35,8 +35,7 @@ public:
     void fire(Payload payload)
     {
         std::unique_lock<std::mutex> lock = acquire();
-        Payload shared = payload;
-        signal_(shared);
+        signal_(payload);
     }
 
 private:

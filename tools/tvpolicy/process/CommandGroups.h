@@ -59,7 +59,7 @@ public:
 
     std::chrono::milliseconds timeout() const { return timeout_; }
 
-    static constexpr std::size_t defaultKeep = 1024 * 1024;
+    static constexpr std::size_t defaultKeep = std::size_t{1024} * 1024;
 
 private:
     class Child;

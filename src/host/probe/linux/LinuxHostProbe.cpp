@@ -121,7 +121,7 @@ std::string shellQuoted(const std::string& text)
 }
 
 // os-release files hold a few hundred bytes; anything past this is not one.
-constexpr std::size_t osReleaseLimit = 64 * 1024;
+constexpr std::size_t osReleaseLimit = std::size_t{64} * 1024;
 constexpr std::size_t attributeLimit = 4096;
 
 }  // namespace

@@ -71,7 +71,7 @@ std::string resolvConf()
     Fd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     std::string text;
     if (fd.valid()) {
-        tvpolicy::readBounded(fd.get(), 64 * 1024, text);
+        tvpolicy::readBounded(fd.get(), std::size_t{64} * 1024, text);
     }
     return text;
 }
