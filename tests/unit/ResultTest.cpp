@@ -41,6 +41,9 @@ TEST(Result, FalseIsAValue)
     Result<bool> no = false;
     ASSERT_TRUE(no);
     EXPECT_FALSE(*no);
+    Result<bool> copied(no);  // a copy, not a bool made of the copy's success
+    EXPECT_TRUE(copied);
+    EXPECT_FALSE(*copied);
     Result<bool> failed = Failure{"unknown"};
     EXPECT_FALSE(failed);
     EXPECT_TRUE(failed.valueOr(true));

@@ -32,7 +32,9 @@ class [[nodiscard]] Result {
     static_assert(!std::is_same_v<std::decay_t<T>, Failure>, "a Result holds a value, not a failure");
 
 public:
-    template <typename U = T, typename = std::enable_if_t<std::is_constructible_v<T, U&&>>>
+    template <typename U = T,
+              typename = std::enable_if_t<!std::is_same_v<std::decay_t<U>, Result> &&
+                                          !std::is_same_v<std::decay_t<U>, Failure> && std::is_constructible_v<T, U&&>>>
     Result(U&& value) : state_(std::in_place_index<0>, std::forward<U>(value))  // NOLINT(google-explicit-constructor)
     {
     }

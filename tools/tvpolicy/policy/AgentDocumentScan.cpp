@@ -154,6 +154,7 @@ std::string joined(const std::vector<std::string>& words)
 std::vector<std::string> namesOf(const std::map<std::string, Rule>& rules)
 {
     std::vector<std::string> names;
+    names.reserve(rules.size());
     for (const auto& entry : rules) {
         names.push_back(entry.first);
     }

@@ -43,7 +43,7 @@ namespace {
 constexpr int dumpAttempts = 3;
 // Large enough for the biggest datagram the kernel builds for a dump (it sizes them by the
 // largest read it has seen, up to 32 KiB).
-constexpr std::size_t bufferSize = 32 * 1024;
+constexpr std::size_t bufferSize = std::size_t{32} * 1024;
 
 std::atomic<std::uint32_t> lastSequence{0};
 
