@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "commands/Command.h"
+#include "io/Joined.h"
 
 namespace tvpolicy::cli {
 
@@ -87,15 +88,6 @@ std::vector<CompletionNode> walk(const CLI::App& root)
     return nodes;
 }
 
-std::string joined(const std::vector<std::string>& words)
-{
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : " ") + word;
-    }
-    return text;
-}
-
 std::vector<std::string> optionNames(const CompletionNode& node, bool valuedOnly)
 {
     std::vector<std::string> names;
@@ -130,9 +122,9 @@ void writeBash(const std::string& program, const std::vector<CompletionNode>& no
             names.push_back(name);
         }
         out << "    " << quoted(node.path) << ")\n"
-            << "        subcommands=" << quoted(joined(names)) << "\n"
-            << "        options=" << quoted(joined(optionNames(node, false))) << "\n"
-            << "        valued=" << quoted(joined(optionNames(node, true))) << "\n"
+            << "        subcommands=" << quoted(joined(names, " ")) << "\n"
+            << "        options=" << quoted(joined(optionNames(node, false), " ")) << "\n"
+            << "        valued=" << quoted(joined(optionNames(node, true), " ")) << "\n"
             << "        files=" << (node.positionals ? 1 : 0) << " ;;\n";
     }
     out << "    esac\n}\n\n"
@@ -193,7 +185,7 @@ void writeZsh(const std::string& program, const std::vector<CompletionNode>& nod
                 out << ' ' << described(name, option.description);
             }
         }
-        out << " )\n        valued=(" << joined(optionNames(node, true)) << ")\n"
+        out << " )\n        valued=(" << joined(optionNames(node, true), " ") << ")\n"
             << "        files=" << (node.positionals ? 1 : 0) << " ;;\n";
     }
     out << "    esac\n}\n\n"

@@ -11,6 +11,7 @@
 #include <tvpolicy/host/NetworkInterfaceXML.h>
 
 #include "commands/Command.h"
+#include "io/Joined.h"
 
 namespace tvpolicy::cli {
 
@@ -49,15 +50,6 @@ Json interfaceJson(const std::string& key, const NetworkInterface& i)
             {"vmName", i.getVMName()},
             {"virtualGuest", i.isVirtualGuest()},
             {"up", i.isUp()}};
-}
-
-std::string joined(const std::vector<std::string>& values, const char* separator)
-{
-    std::string text;
-    for (const std::string& value : values) {
-        text += (text.empty() ? "" : separator) + value;
-    }
-    return text;
 }
 
 void printTable(std::ostream& out, const NetworkInterfaceMap& interfaces)

@@ -11,6 +11,7 @@
 
 #include <tvpolicy/agent/AgentSchema.h>
 
+#include "io/Joined.h"
 #include "policy/UnreadElements.h"
 
 namespace tvpolicy::cli {
@@ -142,15 +143,6 @@ const std::map<std::string, std::map<std::string, Rule>>& childRules()
     return rules;
 }
 
-std::string joined(const std::vector<std::string>& words)
-{
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : ", ") + word;
-    }
-    return text;
-}
-
 std::vector<std::string> namesOf(const std::map<std::string, Rule>& rules)
 {
     std::vector<std::string> names;
@@ -241,7 +233,7 @@ private:
             if (!rule.words.empty() &&
                 std::find(rule.words.begin(), rule.words.end(), elements_[i].text) == rule.words.end()) {
                 add(i, "<" + name + "> holds \"" + elements_[i].text + "\", not a value " + reader_ + " knows (" +
-                           joined(rule.words) + "; exact and case-sensitive): " + rule.otherwise);
+                           joined(rule.words, ", ") + "; exact and case-sensitive): " + rule.otherwise);
             }
             auto nested = childRules().find(name);
             if (nested != childRules().end()) {
