@@ -79,6 +79,7 @@
 #include <tvpolicy/host/NetworkProbe.h>
 #include <tvpolicy/host/PostureProbe.h>
 #include <tvpolicy/host/PowerChangeNotifier.h>
+#include <tvpolicy/host/ProcessTableSnapshot.h>
 #include <tvpolicy/host/Timestamp.h>
 #include <tvpolicy/host/Utilities.h>
 #include <tvpolicy/policy/Option.h>

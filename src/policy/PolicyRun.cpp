@@ -1,6 +1,7 @@
 // Evaluation of a parsed policy: Policy::run and the progress it counts.
 #include <tvpolicy/policy/Policy.h>
 
+#include <tvpolicy/host/ProcessTableSnapshot.h>
 #include <tvpolicy/policy/Option.h>
 #include <tvpolicy/policy/Section.h>
 
@@ -27,6 +28,8 @@ std::uint32_t Policy::getProgressMax()
 bool Policy::run()
 {
     debug("Running_Policy " + name);
+    // However many process checks the policy holds, they read the process table once.
+    tvpolicy::ProcessTableSnapshot oneReading;
     result = true;
     const auto groups = tvpolicy::policy::secondariesByGroup(items);
     for (auto& [key, item] : items) {

@@ -114,12 +114,14 @@ public:
         std::size_t withheld = 0;
     };
     /// The counts of the process table, read afresh: from processTable(), or by the system's
-    /// backend from only what the counts need.
+    /// backend from only what the counts need; from the reading of a ProcessTableSnapshot
+    /// alive on this thread, when there is one.
     ProcessCounts processCounts() const;
 
     /// Whether a process runs whose executable path can be read and whose short name, or the
     /// file name of whose executable, is `name`: looked up in processTable(), or by the system's
-    /// backend reading of each process only what decides it, up to the first match.
+    /// backend reading of each process only what decides it, up to the first match; from the
+    /// reading of a ProcessTableSnapshot alive on this thread, when there is one.
     bool runsProcessNamed(const std::string& name) const;
 };
 

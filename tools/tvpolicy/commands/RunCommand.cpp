@@ -17,6 +17,7 @@
 #include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/Machine.h>
 #include <tvpolicy/host/PostureProbe.h>
+#include <tvpolicy/host/ProcessTableSnapshot.h>
 #include <tvpolicy/policy/Policy.h>
 #include <tvpolicy/policy/Section.h>
 
@@ -269,6 +270,9 @@ int evaluate(const RunOptions& options, Console& console, const CommandHost* com
     readIncludes(*policy, console, options.quiet);
     Section::setReadFailureHandler(nullptr);
 
+    // The warning about processes that withhold their executables and the run's process checks
+    // read the process table once.
+    tvpolicy::ProcessTableSnapshot oneReading;
     std::vector<Notice> notices = documentNotices(*policy, bytes);
     std::size_t documentWarnings = notices.size();
     for (const Notice& notice : hostNotices(*policy)) {
