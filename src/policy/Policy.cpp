@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <iostream>
 
-#include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/sax2/XMLReaderFactory.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -20,6 +19,7 @@
 #include "policy/ParseMessages.h"
 #include "policy/ProgressiveParse.h"
 #include "xml/DocumentLimits.h"
+#include "xml/ReleasingMemoryInput.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
 
@@ -70,8 +70,9 @@ Policy* Policy::parseFromString(std::string xml, bool showErrors)
     reader->setErrorHandler(policy);
 
     const XMLCh* encoding = tvpolicy::policy::trimToMarkup(xml);
-    MemBufInputSource source(reinterpret_cast<const XMLByte*>(xml.data()), xml.size(), "policy", false);
-    source.setCopyBufToStream(false);  // `xml` outlives the parse: no second copy of the document
+    // `xml` outlives the parse and is read by nothing after it: no second copy of the document,
+    // and what the reader has passed is handed back to the system as it goes.
+    tvpolicy::xml::ReleasingMemoryInput source(xml, "policy");
     if (encoding != nullptr) {
         source.setEncoding(encoding);
     }

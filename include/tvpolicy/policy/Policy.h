@@ -23,7 +23,8 @@ class TaskResponse;
 
 namespace tvpolicy::policy {
 class ParseGuard;
-}
+class TaskSourceIndex;
+}  // namespace tvpolicy::policy
 
 /// A compliance policy: its options and sections (the top-level items, in key order), the
 /// server addresses the agent reports to, a few switches and any further name/value pairs.
@@ -158,6 +159,8 @@ private:
     tvpolicy::SourceLocation fatalErrorLocation;
     std::string rootElement;
     const Section* announcedSection = nullptr;
+    // Where the checks of every section came from.
+    std::shared_ptr<tvpolicy::policy::TaskSourceIndex> taskSources;
     std::ofstream debugFile;
     com::torvane::util::Signal<std::string> signal;
     bool result = false;
