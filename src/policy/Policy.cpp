@@ -43,6 +43,8 @@ Policy::Policy(std::string url, SAX2XMLReader* parser) : policyUrl(std::move(url
 
 Policy::~Policy()
 {
+    // In the order they were made in, with their checks: memory goes back front to back
+    // instead of at random, which frees it faster.
     for (Section* item : owned) {
         delete item;
     }
@@ -123,7 +125,7 @@ void Policy::announce(std::string sectionName, const Section* section)
 void Policy::store(std::map<std::string, Section*>& into, const std::string& key, Section* item)
 {
     into[key] = item;
-    owned.insert(item);
+    owned.push_back(item);
 }
 
 std::string Policy::getExtraInfo(const std::string& elementName) const
@@ -244,7 +246,7 @@ void Policy::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qna
 void Policy::startOption(const Attributes& attributes)
 {
     auto* option = new Option(this);
-    owned.insert(option);
+    owned.push_back(option);  // also when it has no name, and so no key
     option->setLocation(guard != nullptr ? guard->location() : tvpolicy::SourceLocation{});
     currentOption = option;
     std::string optionName, instructions, preferred;
@@ -263,7 +265,7 @@ void Policy::startOption(const Attributes& attributes)
     }
     if (!optionName.empty()) {
         option->setName(optionName);
-        store(items, "000" + optionName, option);
+        items["000" + optionName] = option;
     }
     if (!instructions.empty()) {
         option->setInstructionsUrl(instructions);

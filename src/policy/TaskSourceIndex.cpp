@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <limits>
-#include <numeric>
 #include <utility>
 
 #include <tvpolicy/policy/TaskMap.h>
@@ -12,16 +10,64 @@ namespace tvpolicy::policy {
 
 namespace {
 
-// Each element names a registered kind, so a policy holds no more element names than there
-// are kinds.
-static_assert(TaskMap::capacity <= 256, "an element's number is one byte");
+// The stream holds two kinds of entries, told by their first byte. A record: the number of its
+// element's name, then its task's address and its line as differences from the record before,
+// then its column. An attribute of the record before it: one of the two marks below, then its
+// name and its value, each as a length and that many bytes. Numbers take seven bits a byte,
+// the lowest first, and a set high bit says that more follow.
+constexpr std::uint8_t readAttribute = 0xFE;
+constexpr std::uint8_t unreadAttribute = 0xFF;
 
-// A policy is at most a few megabytes long, so its lines and columns fit; a larger number
-// stays the largest one kept rather than wrapping to a small one.
-std::uint32_t narrow(std::uint64_t number)
+// Each element names a registered kind, so a policy holds no more element names than there
+// are kinds, and their numbers stay below the marks.
+static_assert(TaskMap::capacity <= readAttribute, "an element's number is one byte below the marks");
+
+// A difference of two numbers, kept small whichever way it goes: 0, -1, 1, -2 ... become
+// 0, 1, 2, 3 ...
+std::uint64_t zigzag(std::uint64_t from, std::uint64_t to)
 {
-    return static_cast<std::uint32_t>(std::min<std::uint64_t>(number, std::numeric_limits<std::uint32_t>::max()));
+    std::uint64_t difference = to - from;
+    return (difference << 1) ^ (std::uint64_t{0} - (difference >> 63));
 }
+
+std::uint64_t unzigzag(std::uint64_t from, std::uint64_t coded)
+{
+    return from + ((coded >> 1) ^ (std::uint64_t{0} - (coded & 1)));
+}
+
+class StreamReader {
+public:
+    StreamReader(const std::deque<std::uint8_t>& stream, std::size_t at) : stream_(stream), at_(at) {}
+
+    bool atEnd() const { return at_ >= stream_.size(); }
+    std::size_t position() const { return at_; }
+    std::uint8_t peek() const { return stream_[at_]; }
+    std::uint8_t byte() { return stream_[at_++]; }
+
+    std::uint64_t number()
+    {
+        std::uint64_t value = 0;
+        for (unsigned shift = 0;; shift += 7) {
+            std::uint8_t part = byte();
+            value |= std::uint64_t{part & 0x7Fu} << shift;
+            if ((part & 0x80u) == 0) {
+                return value;
+            }
+        }
+    }
+
+    std::string text()
+    {
+        auto length = static_cast<std::size_t>(number());
+        auto first = stream_.begin() + static_cast<std::ptrdiff_t>(at_);
+        at_ += length;
+        return std::string(first, first + static_cast<std::ptrdiff_t>(length));
+    }
+
+private:
+    const std::deque<std::uint8_t>& stream_;
+    std::size_t at_;
+};
 
 }  // namespace
 
@@ -34,6 +80,20 @@ std::uint8_t TaskSourceIndex::intern(std::string_view element)
     return static_cast<std::uint8_t>(known - elementNames_.begin());
 }
 
+void TaskSourceIndex::putNumber(std::uint64_t number)
+{
+    for (; number >= 0x80; number >>= 7) {
+        stream_.push_back(static_cast<std::uint8_t>(number | 0x80));
+    }
+    stream_.push_back(static_cast<std::uint8_t>(number));
+}
+
+void TaskSourceIndex::putText(std::string_view text)
+{
+    putNumber(text.size());
+    stream_.insert(stream_.end(), text.begin(), text.end());
+}
+
 void TaskSourceIndex::add(const Task* task, std::string_view element, SourceLocation where)
 {
     if (!built_.empty()) {
@@ -43,52 +103,64 @@ void TaskSourceIndex::add(const Task* task, std::string_view element, SourceLoca
             built_.erase(stale);
         }
     }
-    records_.push_back({task, narrow(where.line), narrow(where.column)});
-    elements_.push_back(intern(element));
-    ordered_ = false;
+    auto address = reinterpret_cast<std::uintptr_t>(task);
+    stream_.push_back(intern(element));
+    putNumber(zigzag(lastTask_, address));
+    putNumber(zigzag(lastLine_, where.line));
+    putNumber(where.column);
+    lastTask_ = address;
+    lastLine_ = where.line;
 }
 
 void TaskSourceIndex::addAttribute(std::string_view name, std::string_view value, bool read)
 {
-    // An attribute's name is a part of a document of at most a few megabytes.
-    attributes_.push_back({text_.size(), static_cast<std::uint32_t>(records_.size() - 1),
-                           static_cast<std::uint32_t>(name.size()), read ? 1u : 0u});
-    text_.insert(text_.end(), name.begin(), name.end());
-    text_.insert(text_.end(), value.begin(), value.end());
+    stream_.push_back(read ? readAttribute : unreadAttribute);
+    putText(name);
+    putText(value);
 }
 
-void TaskSourceIndex::order() const
+void TaskSourceIndex::readNewRecords() const
 {
-    if (ordered_) {
-        return;
+    auto byTask = [](const Record& left, const Record& right) {
+        return std::less<const Task*>()(left.task, right.task);
+    };
+    std::size_t known = records_.size();
+    StreamReader reader(stream_, readUpTo_);
+    while (!reader.atEnd()) {
+        std::uint8_t kind = reader.byte();
+        if (kind == readAttribute || kind == unreadAttribute) {
+            reader.text();
+            reader.text();
+            continue;
+        }
+        Record record{};
+        readTask_ = static_cast<std::uintptr_t>(unzigzag(readTask_, reader.number()));
+        readLine_ = unzigzag(readLine_, reader.number());
+        record.task = reinterpret_cast<const Task*>(readTask_);
+        record.location = {readLine_, reader.number()};
+        record.attributes = reader.position();
+        record.element = kind;
+        records_.push_back(record);
     }
-    order_.resize(records_.size());
-    std::iota(order_.begin(), order_.end(), std::uint32_t{0});
-    std::sort(order_.begin(), order_.end(), [&](std::uint32_t left, std::uint32_t right) {
-        const Task* a = records_[left].task;
-        const Task* b = records_[right].task;
-        return std::less<const Task*>()(a, b) || (a == b && left < right);
-    });
-    ordered_ = true;
+    readUpTo_ = reader.position();
+    // Both runs in task order and, for one task, in stream order: the last record of a task is its own.
+    auto fresh = records_.begin() + static_cast<std::ptrdiff_t>(known);
+    std::stable_sort(fresh, records_.end(), byTask);
+    std::inplace_merge(records_.begin(), fresh, records_.end(), byTask);
 }
 
-void TaskSourceIndex::build(std::uint32_t record, TaskSource& source) const
+void TaskSourceIndex::build(const Record& record, TaskSource& source) const
 {
-    source.element = elementNames_[elements_[record]];
-    source.location = {records_[record].line, records_[record].column};
-    auto first =
-        std::lower_bound(attributes_.begin(), attributes_.end(), record,
-                         [](const Attribute& attribute, std::uint32_t wanted) { return attribute.record < wanted; });
-    for (auto at = first; at != attributes_.end() && at->record == record; ++at) {
-        auto nameStart = text_.begin() + static_cast<std::ptrdiff_t>(at->offset);
-        auto valueStart = nameStart + at->nameLength;
-        auto valueEnd =
-            at + 1 != attributes_.end() ? text_.begin() + static_cast<std::ptrdiff_t>((at + 1)->offset) : text_.end();
-        std::string name(nameStart, valueStart);
-        if (at->read == 0) {
+    source.element = elementNames_[record.element];
+    source.location = record.location;
+    StreamReader reader(stream_, record.attributes);
+    while (!reader.atEnd() && (reader.peek() == readAttribute || reader.peek() == unreadAttribute)) {
+        bool read = reader.byte() == readAttribute;
+        std::string name = reader.text();
+        if (!read) {
             source.unknownAttributes.push_back(name);
         }
-        source.attributes.emplace_back(std::move(name), std::string(valueStart, valueEnd));
+        source.attributes.emplace_back(std::move(name), reader.text());
     }
 }
 
@@ -99,11 +171,13 @@ const TaskSource* TaskSourceIndex::find(const Task* task) const
     if (built != built_.end()) {
         return built->second.get();
     }
-    order();
-    auto past = std::upper_bound(order_.begin(), order_.end(), task, [&](const Task* wanted, std::uint32_t record) {
-        return std::less<const Task*>()(wanted, records_[record].task);
+    if (readUpTo_ < stream_.size()) {
+        readNewRecords();
+    }
+    auto past = std::upper_bound(records_.begin(), records_.end(), task, [](const Task* wanted, const Record& record) {
+        return std::less<const Task*>()(wanted, record.task);
     });
-    if (past == order_.begin() || records_[*(past - 1)].task != task) {
+    if (past == records_.begin() || (past - 1)->task != task) {
         return nullptr;
     }
     auto source = std::make_unique<TaskSource>();

@@ -17,10 +17,11 @@ class Task;
 namespace tvpolicy::policy {
 
 /// Where the checks of a policy came from, shared by its sections and kept small enough for
-/// policies of hundreds of thousands of checks: sixteen bytes and an element number per check,
-/// each element name once, and the attributes' names and values back to back. A
-/// TaskSource is built when it is first asked for and kept, at the same address, for as long
-/// as the index lives; nothing is ordered for lookup until then.
+/// policies of hundreds of thousands of checks: while the policy is read, each check adds a
+/// few bytes to one stream (its address, line and column as differences from the check before,
+/// the number of its element's name, its attributes). The stream is read only when a source is
+/// first asked for; the TaskSource is then built and kept, at the same address, for as long as
+/// the index lives.
 ///
 /// Records are added while the policy is read, on the reading thread; find() may then be
 /// called from several threads at once.
@@ -37,35 +38,31 @@ public:
     const TaskSource* find(const Task* task) const;
 
 private:
+    // A record as read back from the stream; `attributes` is where its attributes begin there.
     struct Record {
         const Task* task;
-        std::uint32_t line;
-        std::uint32_t column;
-    };
-    // The name starts at `offset` in text_; the value follows it and runs to the next
-    // attribute's name (the last one's to the end of text_).
-    struct Attribute {
-        std::uint64_t offset;
-        std::uint32_t record;
-        std::uint32_t nameLength : 31;
-        std::uint32_t read : 1;
+        SourceLocation location;
+        std::size_t attributes;
+        std::uint8_t element;
     };
 
     std::uint8_t intern(std::string_view element);
-    void order() const;
-    void build(std::uint32_t record, TaskSource& source) const;
+    void putNumber(std::uint64_t number);
+    void putText(std::string_view text);
+    void readNewRecords() const;
+    void build(const Record& record, TaskSource& source) const;
 
-    // Blocks of records rather than one array: no copy of them all as they grow, no spare half.
-    std::deque<Record> records_;
-    std::deque<std::uint8_t> elements_;  // each record's index in elementNames_
+    // Blocks rather than one array: no copy of it all as it grows, no spare half.
+    std::deque<std::uint8_t> stream_;
     std::vector<std::string> elementNames_;
-    std::deque<Attribute> attributes_;  // in record order
-    std::deque<char> text_;
+    std::uintptr_t lastTask_ = 0;
+    std::uint64_t lastLine_ = 0;
 
     mutable std::mutex mutex_;
-    // Record numbers ordered by task, then by number: the last of a task's records is its own.
-    mutable std::vector<std::uint32_t> order_;
-    mutable bool ordered_ = true;
+    mutable std::vector<Record> records_;  // read back so far, ordered by task, then by position
+    mutable std::size_t readUpTo_ = 0;     // where in stream_ the records read back end
+    mutable std::uintptr_t readTask_ = 0;
+    mutable std::uint64_t readLine_ = 0;
     mutable std::map<const Task*, std::unique_ptr<TaskSource>> built_;
     // Built sources of tasks recorded again: a caller may still hold one.
     std::vector<std::unique_ptr<TaskSource>> replaced_;

@@ -6,7 +6,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -165,7 +164,8 @@ private:
     com::torvane::util::Signal<std::string> signal;
     bool result = false;
 
-    // Everything the policy created or was given; items may be replaced under the same key.
-    std::unordered_set<Section*> owned;
+    // Everything the policy created, each once, in the order it was made; items may be replaced
+    // under the same key.
+    std::vector<Section*> owned;
     tvpolicy::policy::ParseGuard* guard = nullptr;
 };
