@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <iostream>
 
-#include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/sax2/XMLReaderFactory.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -20,6 +19,7 @@
 #include "policy/ParseMessages.h"
 #include "policy/ProgressiveParse.h"
 #include "xml/DocumentLimits.h"
+#include "xml/ReleasingMemoryInput.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
 
@@ -43,6 +43,8 @@ Policy::Policy(std::string url, SAX2XMLReader* parser) : policyUrl(std::move(url
 
 Policy::~Policy()
 {
+    // In the order they were made in, with their checks: memory goes back front to back
+    // instead of at random, which frees it faster.
     for (Section* item : owned) {
         delete item;
     }
@@ -70,8 +72,9 @@ Policy* Policy::parseFromString(std::string xml, bool showErrors)
     reader->setErrorHandler(policy);
 
     const XMLCh* encoding = tvpolicy::policy::trimToMarkup(xml);
-    MemBufInputSource source(reinterpret_cast<const XMLByte*>(xml.data()), xml.size(), "policy", false);
-    source.setCopyBufToStream(false);  // `xml` outlives the parse: no second copy of the document
+    // `xml` outlives the parse and is read by nothing after it: no second copy of the document,
+    // and what the reader has passed is handed back to the system as it goes.
+    tvpolicy::xml::ReleasingMemoryInput source(xml, "policy");
     if (encoding != nullptr) {
         source.setEncoding(encoding);
     }
@@ -122,7 +125,7 @@ void Policy::announce(std::string sectionName, const Section* section)
 void Policy::store(std::map<std::string, Section*>& into, const std::string& key, Section* item)
 {
     into[key] = item;
-    owned.insert(item);
+    owned.push_back(item);
 }
 
 std::string Policy::getExtraInfo(const std::string& elementName) const
@@ -243,7 +246,7 @@ void Policy::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qna
 void Policy::startOption(const Attributes& attributes)
 {
     auto* option = new Option(this);
-    owned.insert(option);
+    owned.push_back(option);  // also when it has no name, and so no key
     option->setLocation(guard != nullptr ? guard->location() : tvpolicy::SourceLocation{});
     currentOption = option;
     std::string optionName, instructions, preferred;
@@ -262,7 +265,7 @@ void Policy::startOption(const Attributes& attributes)
     }
     if (!optionName.empty()) {
         option->setName(optionName);
-        store(items, "000" + optionName, option);
+        items["000" + optionName] = option;
     }
     if (!instructions.empty()) {
         option->setInstructionsUrl(instructions);

@@ -23,12 +23,14 @@
 #include "policy/ParseGuard.h"
 #include "policy/ParseMessages.h"
 #include "policy/ProgressiveParse.h"
+#include "policy/TaskSourceIndex.h"
 #include "xml/LimitedFetch.h"
 #include "xml/XmlPlatform.h"
 #include "xml/XmlText.h"
 
 using namespace xercesc;
 using tvpolicy::policy::ParseGuard;
+using tvpolicy::policy::TaskSourceIndex;
 
 namespace {
 
@@ -110,19 +112,14 @@ void Section::startElement(const XMLCh*, const XMLCh* localname, const XMLCh* qn
         ignored.push_back({element, where});
         return;
     }
-    // A fresh record: a task may take the address of one released earlier in this parse.
-    tvpolicy::TaskSource& source = sources[task] = tvpolicy::TaskSource{};
-    source.element = element;
-    source.location = where;
+    TaskSourceIndex& index = sourceIndex();
+    index.add(task, element, where);
     for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
         Task::Attribute attribute{
             tvpolicy::xml::elementName(attributes.getLocalName(i), attributes.getQName(i), fromQName),
             tvpolicy::xml::utf8(attributes.getValue(i))};
         task->setAttribute(&attribute);
-        if (!tvpolicy::TaskCatalog::reads(kind, attribute.first)) {
-            source.unknownAttributes.push_back(attribute.first);
-        }
-        source.attributes.push_back(std::move(attribute));
+        index.addAttribute(attribute.first, attribute.second, tvpolicy::TaskCatalog::reads(kind, attribute.first));
     }
     if (isComposite(tvpolicy::xml::elementNameText(localname, qname))) {
         taskStack.push(task);
@@ -151,8 +148,13 @@ void Section::endElement(const XMLCh*, const XMLCh* localname, const XMLCh* qnam
         } else {
             addTask(done);
         }
-    } else if (equalsAscii(element, "section") && policy != nullptr && policy->reader != nullptr) {
-        policy->reader->setContentHandler(policy);
+    } else if (equalsAscii(element, "section")) {
+        if (taskStack.empty()) {
+            decltype(taskStack)().swap(taskStack);  // its room is not needed once the section is read
+        }
+        if (policy != nullptr && policy->reader != nullptr) {
+            policy->reader->setContentHandler(policy);
+        }
     }
 }
 
@@ -227,8 +229,22 @@ bool Section::isAllProhibited() { return false; }
 
 const tvpolicy::TaskSource* Section::getTaskSource(const Task* task) const
 {
-    auto found = sources.find(task);
-    return found != sources.end() ? &found->second : nullptr;
+    return sources ? sources->find(task) : nullptr;
+}
+
+TaskSourceIndex& Section::sourceIndex()
+{
+    if (!sources) {
+        if (policy == nullptr) {
+            sources = std::make_shared<TaskSourceIndex>();
+        } else {
+            if (!policy->taskSources) {
+                policy->taskSources = std::make_shared<TaskSourceIndex>();
+            }
+            sources = policy->taskSources;
+        }
+    }
+    return *sources;
 }
 
 std::string Section::getType() { return "Section"; }

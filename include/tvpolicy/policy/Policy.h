@@ -6,7 +6,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -23,7 +22,8 @@ class TaskResponse;
 
 namespace tvpolicy::policy {
 class ParseGuard;
-}
+class TaskSourceIndex;
+}  // namespace tvpolicy::policy
 
 /// A compliance policy: its options and sections (the top-level items, in key order), the
 /// server addresses the agent reports to, a few switches and any further name/value pairs.
@@ -158,11 +158,14 @@ private:
     tvpolicy::SourceLocation fatalErrorLocation;
     std::string rootElement;
     const Section* announcedSection = nullptr;
+    // Where the checks of every section came from.
+    std::shared_ptr<tvpolicy::policy::TaskSourceIndex> taskSources;
     std::ofstream debugFile;
     com::torvane::util::Signal<std::string> signal;
     bool result = false;
 
-    // Everything the policy created or was given; items may be replaced under the same key.
-    std::unordered_set<Section*> owned;
+    // Everything the policy created, each once, in the order it was made; items may be replaced
+    // under the same key.
+    std::vector<Section*> owned;
     tvpolicy::policy::ParseGuard* guard = nullptr;
 };

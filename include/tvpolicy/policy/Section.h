@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <list>
-#include <map>
+#include <memory>
 #include <stack>
 #include <string>
 #include <vector>
@@ -20,7 +20,8 @@ class TaskResponse;
 
 namespace tvpolicy::policy {
 class ParseGuard;
-}
+class TaskSourceIndex;
+}  // namespace tvpolicy::policy
 
 /// One named compliance check of a policy: task trees that must all pass, and the attributes
 /// that say how the outcome counts. While a policy is parsed the section takes the reader's
@@ -134,9 +135,12 @@ protected:
 private:
     friend class Policy;
     bool refuse();
+    /// Where the checks' sources are recorded: the owning policy's index, or one of the
+    /// section's own without a policy; made with the first check.
+    tvpolicy::policy::TaskSourceIndex& sourceIndex();
 
     tvpolicy::policy::ParseGuard* guard = nullptr;  // bounds of the document being read
     tvpolicy::SourceLocation location;
-    std::map<const Task*, tvpolicy::TaskSource> sources;
+    std::shared_ptr<tvpolicy::policy::TaskSourceIndex> sources;  // the policy's, or this section's own
     std::vector<tvpolicy::IgnoredElement> ignored;
 };

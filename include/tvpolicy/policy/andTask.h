@@ -28,7 +28,9 @@ private:
     friend class LogicTermRelease;
     friend class LogicEvaluation;
     friend class LogicFrame;
-    std::list<Task*> terms;
+    // The flags first: they fit in the room the base class leaves after its own, and a policy
+    // holds many of these.
     bool skip = false;
     bool skipEmpty = false;  // accepted and stored only
+    std::list<Task*> terms;
 };
