@@ -133,34 +133,34 @@ bool readKey(const std::string& key, const toml::node& node, AgentSettings& sett
 
 }  // namespace
 
-bool loadSettings(const std::string& path, bool mustExist, AgentSettings& settings, std::string& error)
+Result<AgentSettings> loadSettings(const std::string& path, bool mustExist)
 {
+    AgentSettings settings;
     struct stat info {};
     if (::stat(path.c_str(), &info) != 0) {
         if (errno == ENOENT && !mustExist) {
-            return true;
+            return settings;
         }
-        error = path + ": " + std::strerror(errno);
-        return false;
+        return Failure{path + ": " + std::strerror(errno)};
     }
     toml::table table;
     try {
         table = toml::parse_file(path);
     } catch (const toml::parse_error& failure) {
-        error = path + ":" + std::to_string(failure.source().begin.line) + ": " + std::string(failure.description());
-        return false;
+        return Failure{path + ":" + std::to_string(failure.source().begin.line) + ": " +
+                       std::string(failure.description())};
     }
     if (table.contains("login") && (info.st_mode & (S_IRGRP | S_IROTH)) != 0) {
-        error = path + " holds login values and others may read it: make it readable by its owner only (chmod 600)";
-        return false;
+        return Failure{path +
+                       " holds login values and others may read it: make it readable by its owner only (chmod 600)"};
     }
     for (const auto& [key, node] : table) {
+        std::string error;
         if (!readKey(std::string(key.str()), node, settings, error)) {
-            error = path + ": " + error;
-            return false;
+            return Failure{path + ": " + error};
         }
     }
-    return true;
+    return settings;
 }
 
 }  // namespace tvpolicy::cli::agent

@@ -78,12 +78,15 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
     }
     std::string error;
     std::string fullMessage;
-    std::unique_ptr<Policy> policy =
-        input.directory ? nullptr : parsePolicy(input.text, sourceName(source), error, &fullMessage);
+    std::unique_ptr<Policy> policy;
     if (input.directory) {
         std::unique_ptr<Policy> empty(Policy::parseFromString(input.text, true));
         error = sourceName(source) + ": is a directory\n" + libraryMessage(*empty);
         fullMessage = empty->getFatalErrorMsg();
+    } else if (Result<std::unique_ptr<Policy>> parsed = parsePolicy(input.text, sourceName(source), &fullMessage)) {
+        policy = std::move(parsed).value();
+    } else {
+        error = parsed.error();
     }
     if (!policy) {
         // The cause is a line of its own; the library's message after it keeps its own line breaks.
@@ -102,21 +105,18 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
     return policy;
 }
 
-std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error,
-                                    std::string* fullMessage)
+Result<std::unique_ptr<Policy>> parsePolicy(const std::string& text, const std::string& name, std::string* fullMessage)
 {
     std::unique_ptr<Policy> policy(Policy::parseFromString(text, true));
     if (policy->getFatalParseError()) {
-        error = name + ": " + causeOf(*policy, text) + '\n' + libraryMessage(*policy);
         if (fullMessage != nullptr) {
             *fullMessage = policy->getFatalErrorMsg();
         }
-        return nullptr;
+        return Failure{name + ": " + causeOf(*policy, text) + '\n' + libraryMessage(*policy)};
     }
     if (policy->getRootElement() != "policy") {
-        error =
-            name + " is not a policy: its root element is <" + policy->getRootElement() + ">, a policy's is <policy>";
-        return nullptr;
+        return Failure{name + " is not a policy: its root element is <" + policy->getRootElement() +
+                       ">, a policy's is <policy>"};
     }
     return policy;
 }
