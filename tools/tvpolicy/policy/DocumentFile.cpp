@@ -8,25 +8,24 @@
 #include <utility>
 
 #include <tvpolicy/base/OwnedFd.h>
+#include <tvpolicy/base/Result.h>
 
 namespace tvpolicy::cli {
 
 namespace {
 
-// Reads all of `fd` into `text`; false, with `why` set, on a read error or past `maxBytes`.
-bool readAll(int fd, std::size_t maxBytes, std::string& text, std::string& why)
+// All of `fd`; a failure on a read error or past `maxBytes`.
+Result<std::string> readAll(int fd, std::size_t maxBytes)
 {
     std::string content;
     switch (readBounded(fd, maxBytes, content)) {
-    case ReadEnd::Complete: text = std::move(content); return true;
+    case ReadEnd::Complete: return content;
     case ReadEnd::OverLimit:
-        why = "larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)";
-        return false;
+        return Failure{"larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)"};
     case ReadEnd::WouldBlock:
     case ReadEnd::Failed: break;
     }
-    why = std::strerror(errno);
-    return false;
+    return Failure{std::strerror(errno)};
 }
 
 }  // namespace
@@ -34,17 +33,21 @@ bool readAll(int fd, std::size_t maxBytes, std::string& text, std::string& why)
 DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
 {
     DocumentRead read;
-    std::string why;
     auto fail = [&](const std::string& reason) {
         read.error = "cannot read " + (path == "-" ? std::string("standard input") : "'" + path + "'") + ": " + reason;
         return read;
     };
-    if (path == "-") {
-        if (!readAll(STDIN_FILENO, maxBytes, read.text, why)) {
-            return fail(why);
+    auto readWhole = [&](int fd) {
+        Result<std::string> text = readAll(fd, maxBytes);
+        if (!text) {
+            return fail(text.error());
         }
+        read.text = std::move(text).value();
         read.ok = true;
         return read;
+    };
+    if (path == "-") {
+        return readWhole(STDIN_FILENO);
     }
     OwnedFd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat info {};
@@ -60,11 +63,7 @@ DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
     }
     // Opened without blocking so that a FIFO without a writer cannot hang the open; reads block.
     ::fcntl(file.get(), F_SETFL, ::fcntl(file.get(), F_GETFL) & ~O_NONBLOCK);
-    if (!readAll(file.get(), maxBytes, read.text, why)) {
-        return fail(why);
-    }
-    read.ok = true;
-    return read;
+    return readWhole(file.get());
 }
 
 std::optional<std::string> loadDocument(Console& console, const std::string& command, const std::string& path,
