@@ -32,19 +32,13 @@ Result<std::string> readAll(int fd, std::size_t maxBytes)
 
 DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
 {
-    DocumentRead read;
-    auto fail = [&](const std::string& reason) {
-        read.error = "cannot read " + (path == "-" ? std::string("standard input") : "'" + path + "'") + ": " + reason;
-        return read;
+    auto fail = [&](const std::string& reason, int code = 0) -> DocumentRead {
+        return Failure{
+            "cannot read " + (path == "-" ? std::string("standard input") : "'" + path + "'") + ": " + reason, code};
     };
     auto readWhole = [&](int fd) {
         Result<std::string> text = readAll(fd, maxBytes);
-        if (!text) {
-            return fail(text.error());
-        }
-        read.text = std::move(text).value();
-        read.ok = true;
-        return read;
+        return text ? text : fail(text.error());
     };
     if (path == "-") {
         return readWhole(STDIN_FILENO);
@@ -55,8 +49,7 @@ DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
         return fail(std::strerror(errno));
     }
     if (S_ISDIR(info.st_mode)) {
-        read.directory = true;
-        return fail("is a directory");
+        return fail("is a directory", EISDIR);
     }
     if (S_ISREG(info.st_mode) && static_cast<std::uint64_t>(info.st_size) > maxBytes) {
         return fail("larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)");
@@ -70,11 +63,11 @@ std::optional<std::string> loadDocument(Console& console, const std::string& com
                                         std::size_t maxBytes)
 {
     DocumentRead read = readDocument(path, maxBytes);
-    if (!read.ok) {
-        console.err() << "tvpolicy " << command << ": " << read.error << '\n';
+    if (!read) {
+        console.err() << "tvpolicy " << command << ": " << read.error() << '\n';
         return std::nullopt;
     }
-    return std::move(read.text);
+    return std::move(read).value();
 }
 
 std::string problemOf(const tvpolicy::DocumentCheck& check, const std::string& text)
