@@ -106,23 +106,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static const ScratchFile file;
     const std::string& path = file.write(std::string(reinterpret_cast<const char*>(data), size));
-    AgentSettings settings;
-    std::string error;
-    if (!tvpolicy::cli::agent::loadSettings(path, true, settings, error)) {
-        if (error.compare(0, path.size(), path) != 0) {
-            std::fprintf(stderr, "a refusal that does not name the file: %s\n", error.c_str());
+    auto loaded = tvpolicy::cli::agent::loadSettings(path, true);
+    if (!loaded) {
+        if (loaded.error().compare(0, path.size(), path) != 0) {
+            std::fprintf(stderr, "a refusal that does not name the file: %s\n", loaded.error().c_str());
             std::abort();
         }
         return 0;
     }
-    if (!error.empty() || settings.interval.count() <= 0) {
+    const AgentSettings& settings = *loaded;
+    if (settings.interval.count() <= 0) {
         std::abort();
     }
     const std::string written = asToml(settings);
-    AgentSettings again;
-    if (!tvpolicy::cli::agent::loadSettings(file.write(written), true, again, error) || !same(settings, again)) {
-        std::fprintf(stderr, "settings written back do not load to the same settings (%s):\n%s\n", error.c_str(),
-                     written.c_str());
+    auto again = tvpolicy::cli::agent::loadSettings(file.write(written), true);
+    if (!again || !same(settings, *again)) {
+        std::fprintf(stderr, "settings written back do not load to the same settings (%s):\n%s\n",
+                     again.error().c_str(), written.c_str());
         std::abort();
     }
     return 0;

@@ -24,10 +24,11 @@ class ScratchState {
 public:
     ScratchState()
     {
-        std::string error;
-        if (!read.prepare(error) || !written.prepare(error)) {
-            std::fprintf(stderr, "%s\n", error.c_str());
-            std::abort();
+        for (const AgentState* each : {&read, &written}) {
+            if (auto prepared = each->prepare(); !prepared) {
+                std::fprintf(stderr, "%s\n", prepared.error().c_str());
+                std::abort();
+            }
         }
     }
 
@@ -64,7 +65,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static ScratchState state;
     state.put(std::string(reinterpret_cast<const char*>(data), size));
-    std::string error;
 
     const std::vector<PendingResults> waiting = state.read.pending();
     if (waiting.size() > 1) {
@@ -72,8 +72,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     for (const PendingResults& results : waiting) {
         state.emptyWritten();
-        if (!state.written.queue(results.url, results.body, error)) {
-            std::fprintf(stderr, "%s\n", error.c_str());
+        if (auto queued = state.written.queue(results.url, results.body); !queued) {
+            std::fprintf(stderr, "%s\n", queued.error().c_str());
             std::abort();
         }
         const std::vector<PendingResults> again = state.written.pending();
@@ -87,8 +87,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!verdict->is_object()) {
             std::abort();
         }
-        if (!state.written.saveVerdict(*verdict, error)) {
-            std::fprintf(stderr, "%s\n", error.c_str());
+        if (auto saved = state.written.saveVerdict(*verdict); !saved) {
+            std::fprintf(stderr, "%s\n", saved.error().c_str());
             std::abort();
         }
         auto again = state.written.lastVerdict();

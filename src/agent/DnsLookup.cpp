@@ -8,8 +8,8 @@
 
 namespace com::torvane {
 
-std::vector<unsigned char> lookUp(const char* service, const char* protocol, const char* domain, int type,
-                                  const std::optional<tvpolicy::NameServer>& server)
+tvpolicy::Result<std::vector<unsigned char>> lookUp(const char* service, const char* protocol, const char* domain,
+                                                    int type, const std::optional<tvpolicy::NameServer>& server)
 {
     const auto text = [](const char* value) { return value != nullptr ? value : ""; };
     char name[255];

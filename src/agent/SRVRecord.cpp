@@ -42,7 +42,7 @@ std::list<const SRVRecord*> SRVRecord::lookupMacOSX(const char* service, const c
                                                     const std::optional<tvpolicy::NameServer>& server)
 {
     std::list<const SRVRecord*> records;
-    for (auto& answer : tvpolicy::parse::srvAnswers(lookUp(service, protocol, domain, ns_t_srv, server))) {
+    for (auto& answer : tvpolicy::parse::srvAnswers(lookUp(service, protocol, domain, ns_t_srv, server).valueOr({}))) {
         auto record =
             std::make_unique<SRVRecord>(answer.priority, answer.weight, std::move(answer.target), answer.port);
         records.push_back(record.get());

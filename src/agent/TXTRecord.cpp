@@ -28,7 +28,8 @@ std::shared_ptr<TXTRecord> TXTRecord::lookup(const char* service, const char* pr
 std::shared_ptr<TXTRecord> TXTRecord::lookupOSX(const char* service, const char* protocol, const char* domain,
                                                 const std::optional<tvpolicy::NameServer>& server)
 {
-    std::vector<std::string> texts = tvpolicy::parse::txtAnswers(lookUp(service, protocol, domain, ns_t_txt, server));
+    std::vector<std::string> texts =
+        tvpolicy::parse::txtAnswers(lookUp(service, protocol, domain, ns_t_txt, server).valueOr({}));
     return std::make_shared<TXTRecord>(std::list<std::string>(texts.begin(), texts.end()));
 }
 

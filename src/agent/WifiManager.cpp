@@ -96,15 +96,17 @@ bool join(const std::string& ssid, const std::string& password, const JoinTexts&
             return true;
         }
         log() << "Current SSID = " << orNull(status->ssid) << std::endl;
-        std::string error;
-        std::vector<NetworkProbe::WifiNetwork> found = network.wifiScan(ssid, error);
+        tvpolicy::Result<NetworkProbe::WifiScan> scan = network.wifiScan(ssid);
+        const std::vector<NetworkProbe::WifiNetwork> none;
+        const std::vector<NetworkProbe::WifiNetwork>& found = scan ? scan->networks : none;
         std::string listed;
         for (const NetworkProbe::WifiNetwork& seen : found) {
             listed += (listed.empty() ? "" : ", ") + seen.description;
         }
         log() << "Visible Networks: {(" << listed << ")}" << std::endl;
-        if (!error.empty()) {
-            log() << "NSError " << error << ":" << std::endl;
+        const std::string& refusal = scan ? scan->refusal : scan.error();
+        if (!refusal.empty()) {
+            log() << "NSError " << refusal << ":" << std::endl;
         }
         if (found.empty()) {
             log() << texts.notFound << std::endl;
@@ -121,9 +123,8 @@ bool join(const std::string& ssid, const std::string& password, const JoinTexts&
             }
             log() << "Current SSID 2 = " << orNull(status ? status->ssid : std::string()) << std::endl;
             log() << texts.attempting << std::endl;
-            error.clear();
-            network.wifiAssociate(target, password, enterprise, error);
-            log() << (enterprise ? texts.enterpriseError : texts.personalError) << orNull(error) << std::endl;
+            tvpolicy::Result<void> joined = network.wifiAssociate(target, password, enterprise);
+            log() << (enterprise ? texts.enterpriseError : texts.personalError) << orNull(joined.error()) << std::endl;
             log() << texts.completed << std::endl;
         }
         status = network.wifiStatus();
@@ -217,9 +218,9 @@ bool WifiManager::createModifyProfile(WifiConfigurationProfile& profile) const
         if (std::find(stored.begin(), stored.end(), settings) != stored.end()) {
             log() << "CreateModifyProfile: Specified Configuration Already Exists...exiting." << std::endl;
         } else {
-            std::string error;
-            if (!network.wifiStoreProfile(settings, error)) {
-                log() << "CreateModifyProfile: commitConfiguration NSError: " << orNull(error) << std::endl;
+            tvpolicy::Result<void> committed = network.wifiStoreProfile(settings);
+            if (!committed) {
+                log() << "CreateModifyProfile: commitConfiguration NSError: " << orNull(committed.error()) << std::endl;
             }
         }
     } catch (const std::exception& exception) {

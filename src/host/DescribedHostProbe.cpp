@@ -63,11 +63,14 @@ int DescribedHostProbe::runShellCommand(const std::string&) { return commandStat
 
 void DescribedHostProbe::openURL(const std::string&) {}
 
-std::vector<unsigned char> DescribedHostProbe::dnsQuery(const std::string& name, int type,
-                                                        const std::optional<NameServer>&) const
+Result<std::vector<unsigned char>> DescribedHostProbe::dnsQuery(const std::string& name, int type,
+                                                                const std::optional<NameServer>&) const
 {
     auto found = dnsAnswers.find({name, type});
-    return found != dnsAnswers.end() ? found->second : std::vector<unsigned char>();
+    if (found == dnsAnswers.end()) {
+        return dnsFailure(DnsNoAnswer);
+    }
+    return found->second;
 }
 
 std::string DescribedHostProbe::dnsDefaultDomain() const { return searchDomain; }

@@ -27,8 +27,8 @@ int ForwardingHostProbe::runShellCommand(const std::string& command) { return in
 
 void ForwardingHostProbe::openURL(const std::string& url) { inner_.openURL(url); }
 
-std::vector<unsigned char> ForwardingHostProbe::dnsQuery(const std::string& name, int type,
-                                                         const std::optional<NameServer>& server) const
+Result<std::vector<unsigned char>> ForwardingHostProbe::dnsQuery(const std::string& name, int type,
+                                                                 const std::optional<NameServer>& server) const
 {
     return inner_.dnsQuery(name, type, server);
 }

@@ -34,13 +34,12 @@ FetchLimits& documentFetchLimits()
     return limits;
 }
 
-FetchResult fetchDocument(const std::string& url, const FetchLimits& limits)
+Result<FetchedDocument> fetchDocument(const std::string& url, const FetchLimits& limits)
 {
-    FetchResult result;
     net::CurlHandle curl = net::makeCurlHandle();
     if (!curl) {
-        result.error = tvpolicy::net::whyNoCurlHandle();
-        return result;
+        lastFailure = tvpolicy::net::whyNoCurlHandle();
+        return Failure{lastFailure};
     }
     std::string body;
     net::BoundedText download{&body, limits.maxBytes};
@@ -58,30 +57,32 @@ FetchResult fetchDocument(const std::string& url, const FetchLimits& limits)
     curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
 
     CURLcode code = curl_easy_perform(handle);
-    curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &result.status);
+    long status = 0;
+    curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
+    std::string why;
     if (download.tooLarge || code == CURLE_FILESIZE_EXCEEDED) {
-        result.error = "the document is larger than " + std::to_string(limits.maxBytes) + " bytes";
+        why = "the document is larger than " + std::to_string(limits.maxBytes) + " bytes";
     } else if (code == CURLE_OPERATION_TIMEDOUT) {
-        result.error = "no complete answer within the time-out of " + seconds(limits.totalTimeoutMs) + " (" +
-                       (errorText[0] != 0 ? errorText : curl_easy_strerror(code)) + ")";
+        why = "no complete answer within the time-out of " + seconds(limits.totalTimeoutMs) + " (" +
+              (errorText[0] != 0 ? errorText : curl_easy_strerror(code)) + ")";
     } else if (code == CURLE_PEER_FAILED_VERIFICATION || code == CURLE_SSL_CACERT_BADFILE) {
-        result.error = "the server's certificate is not trusted (" +
-                       std::string(errorText[0] != 0 ? errorText : curl_easy_strerror(code)) + ")";
+        why = "the server's certificate is not trusted (" +
+              std::string(errorText[0] != 0 ? errorText : curl_easy_strerror(code)) + ")";
     } else if (code != CURLE_OK) {
-        result.error = errorText[0] != 0 ? errorText : curl_easy_strerror(code);
-    } else if (result.status >= 300 && result.status <= 399) {
+        why = errorText[0] != 0 ? errorText : curl_easy_strerror(code);
+    } else if (status >= 300 && status <= 399) {
         const char* location = nullptr;
         curl_easy_getinfo(handle, CURLINFO_REDIRECT_URL, &location);
-        result.error = "the server answered with status " + std::to_string(result.status) + ", a redirect" +
-                       (location != nullptr ? std::string(" to ") + location : std::string()) + " that is not followed";
-    } else if (result.status < 200 || result.status > 299) {
-        result.error = "the server answered with status " + std::to_string(result.status);
-    } else {
-        result.ok = true;
-        result.body = std::move(body);
+        why = "the server answered with status " + std::to_string(status) + ", a redirect" +
+              (location != nullptr ? std::string(" to ") + location : std::string()) + " that is not followed";
+    } else if (status < 200 || status > 299) {
+        why = "the server answered with status " + std::to_string(status);
     }
-    lastFailure = result.error;
-    return result;
+    lastFailure = why;
+    if (!why.empty()) {
+        return Failure{why, static_cast<int>(status)};
+    }
+    return FetchedDocument{status, std::move(body)};
 }
 
 }  // namespace tvpolicy::xml

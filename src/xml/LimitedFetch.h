@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string>
 
+#include <tvpolicy/base/Result.h>
+
 #include "xml/DocumentLimits.h"
 
 namespace tvpolicy::xml {
@@ -18,18 +20,18 @@ struct FetchLimits {
 /// before any parse starts; they are not locked.
 FetchLimits& documentFetchLimits();
 
-struct FetchResult {
-    bool ok = false;
-    long status = 0;    // the HTTP status, 0 when no response came
-    std::string body;   // only when ok
-    std::string error;  // why not, when not ok
+/// A document that a server gave with a 2xx status.
+struct FetchedDocument {
+    long status = 0;
+    std::string body;
 };
 
 /// GETs an http or https address within `limits`. Redirects are not followed; any status
 /// other than 2xx, a body over the size cap or a time-out is a failure, and its body is
-/// dropped, never handed on. The reason names the cause: the status (and a redirect's
-/// target), the time-out, the size cap, an untrusted certificate or the transfer's own error.
-FetchResult fetchDocument(const std::string& url, const FetchLimits& limits);
+/// dropped, never handed on. The failure names the cause: the status (and a redirect's
+/// target), the time-out, the size cap, an untrusted certificate or the transfer's own error;
+/// its code is the HTTP status, 0 when no response came.
+Result<FetchedDocument> fetchDocument(const std::string& url, const FetchLimits& limits);
 
 /// Why the last fetchDocument of this thread failed (empty after a success), once: the reader
 /// reports a failed fetch only as its own network error, which does not say why.

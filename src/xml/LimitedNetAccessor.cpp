@@ -28,12 +28,12 @@ BinInputStream* LimitedNetAccessor::makeNew(const XMLURL& url, const XMLNetHTTPI
         ThrowXML(NetAccessorException, XMLExcepts::NetAcc_UnsupportedMethod);
     }
     std::string address = utf8(url.getURLText());
-    FetchResult fetched = fetchDocument(address, documentFetchLimits());
-    if (!fetched.ok) {
-        tvi::LogLine(std::cout) << "Cannot fetch " << address << ": " << fetched.error;
+    Result<FetchedDocument> fetched = fetchDocument(address, documentFetchLimits());
+    if (!fetched) {
+        tvi::LogLine(std::cout) << "Cannot fetch " << address << ": " << fetched.error();
         ThrowXML1(NetAccessorException, XMLExcepts::NetAcc_ReadSocket, url.getURLText());
     }
-    return new BinMemInputStream(reinterpret_cast<const XMLByte*>(fetched.body.data()), fetched.body.size(),
+    return new BinMemInputStream(reinterpret_cast<const XMLByte*>(fetched->body.data()), fetched->body.size(),
                                  BinMemInputStream::BufOpt_Copy);
 }
 

@@ -1,5 +1,6 @@
 #include <tvpolicy/agent/SRVRecord.h>
 #include <tvpolicy/agent/TXTRecord.h>
+#include <tvpolicy/host/HostProbe.h>
 #include <tvpolicy/host/NameServer.h>
 
 #include <gtest/gtest.h>
@@ -60,6 +61,32 @@ TEST(DnsDiscoveryPeer, GivesUpOnAServerThatNeverAnswers)
     peers::SilentNameServer silent;
     std::optional<NameServer> server = NameServer::parse(silent.address());
     EXPECT_TRUE(SRVRecord::lookup("agent", "tcp", "corp.test", server).empty());
+}
+
+// The system probe's query says why it has no answer: the name server's answer, or the lack of one.
+TEST(DnsDiscoveryPeer, AFailedQuerySaysWhy)
+{
+    peers::Dnsmasq authoritative({"--auth-zone=corp.test", "--auth-server=ns.corp.test",
+                                  "--srv-host=_agent._tcp.corp.test,a.corp.test,443,10,20"});
+    struct Case {
+        std::string title;
+        std::string name;
+        int type;
+        std::string server;
+        int code;  // 0: an answer
+    };
+    const std::vector<Case> cases = {
+        {"Answered", "_agent._tcp.corp.test", 33, authoritative.address(), 0},
+        {"NoSuchName", "_other._tcp.corp.test", 33, authoritative.address(), tvpolicy::DnsNoSuchName},
+        {"NoRecordOfTheType", "_agent._tcp.corp.test", 16, authoritative.address(), tvpolicy::DnsNoData},
+        {"NothingListening", "_agent._tcp.corp.test", 33, "127.0.0.1:1", tvpolicy::DnsNoAnswer},
+    };
+    for (const Case& c : cases) {
+        auto answer = tvpolicy::systemHost().dnsQuery(c.name, c.type, NameServer::parse(c.server));
+        EXPECT_EQ(answer.ok(), c.code == 0) << c.title << ": " << answer.error();
+        EXPECT_EQ(answer.code(), c.code) << c.title;
+        EXPECT_EQ(answer.error().empty(), c.code == 0) << c.title;
+    }
 }
 
 }  // namespace

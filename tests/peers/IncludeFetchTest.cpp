@@ -22,8 +22,8 @@
 
 namespace {
 
+using tvpolicy::xml::FetchedDocument;
 using tvpolicy::xml::FetchLimits;
-using tvpolicy::xml::FetchResult;
 
 const std::string sectionDocument = "<section><help>Keep it on.</help><Validate status=\"true\"/><false/></section>";
 
@@ -101,11 +101,12 @@ TEST_P(FetchDocumentTest, KeepsWithinTheLimits)
 {
     SectionServer server;
     const FetchCase& c = GetParam();
-    FetchResult result = tvpolicy::xml::fetchDocument(c.path[0] == '/' ? server.url(c.path) : c.path, testLimits());
-    EXPECT_EQ(result.ok, c.ok);
-    EXPECT_EQ(result.status, c.status);
-    EXPECT_EQ(result.error.substr(0, c.error.size()), c.error) << result.error;
-    EXPECT_EQ(result.body, c.ok ? sectionDocument : "");
+    tvpolicy::Result<FetchedDocument> result =
+        tvpolicy::xml::fetchDocument(c.path[0] == '/' ? server.url(c.path) : c.path, testLimits());
+    EXPECT_EQ(result.ok(), c.ok);
+    EXPECT_EQ(result ? result->status : result.code(), c.status);
+    EXPECT_EQ(result.error().substr(0, c.error.size()), c.error) << result.error();
+    EXPECT_EQ(result ? result->body : "", c.ok ? sectionDocument : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(

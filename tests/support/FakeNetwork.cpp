@@ -47,39 +47,41 @@ std::string FakeNetwork::commandOutput(const std::string& command, unsigned long
 
 std::optional<NetworkProbe::WifiStatus> FakeNetwork::wifiStatus() const { return wifi; }
 
-std::vector<NetworkProbe::WifiNetwork> FakeNetwork::wifiScan(const std::string& ssid, std::string& error)
+tvpolicy::Result<NetworkProbe::WifiScan> FakeNetwork::wifiScan(const std::string& ssid)
 {
-    error = scanError;
-    std::vector<WifiNetwork> found;
+    WifiScan scan;
+    scan.refusal = scanError;
     for (const WifiNetwork& network : visible) {
         if (network.ssid == ssid) {
-            found.push_back(network);
+            scan.networks.push_back(network);
         }
     }
-    return found;
+    return scan;
 }
 
-void FakeNetwork::wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
-                                std::string& error)
+tvpolicy::Result<void> FakeNetwork::wifiAssociate(const WifiNetwork& network, const std::string& password,
+                                                  bool enterprise)
 {
     associations.push_back({network.ssid, password, enterprise});
-    error = associateError;
     if (wifi && joinOnAttempt > 0 && static_cast<int>(associations.size()) >= joinOnAttempt) {
         wifi->ssid = network.ssid;
         wifi->bssid = network.bssid;
     }
+    if (!associateError.empty()) {
+        return tvpolicy::Failure{associateError};
+    }
+    return {};
 }
 
 std::vector<NetworkProbe::WifiSettings> FakeNetwork::wifiStoredProfiles() const { return stored; }
 
-bool FakeNetwork::wifiStoreProfile(const WifiSettings& settings, std::string& error)
+tvpolicy::Result<void> FakeNetwork::wifiStoreProfile(const WifiSettings& settings)
 {
-    error = storeError;
-    if (!error.empty()) {
-        return false;
+    if (!storeError.empty()) {
+        return tvpolicy::Failure{storeError};
     }
     stored.insert(stored.begin(), settings);
-    return true;
+    return {};
 }
 
 }  // namespace testing_support

@@ -38,11 +38,11 @@ public:
 
     std::optional<WifiStatus> wifi;    ///< the Wi-Fi interface, if any
     std::vector<WifiNetwork> visible;  ///< what a scan finds (filtered by SSID)
-    std::string scanError;             ///< set on every scan when not empty
+    std::string scanError;             ///< every scan's refusal when not empty (it still lists)
     /// The association attempt (counted from 1) after which the interface is on the network;
     /// 0 never joins.
     int joinOnAttempt = 1;
-    std::string associateError;  ///< set on every attempt when not empty
+    std::string associateError;  ///< makes every attempt fail when not empty
     struct Association {
         std::string ssid;
         std::string password;
@@ -62,11 +62,11 @@ public:
     GuestTools guestTools() const override;
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     std::optional<WifiStatus> wifiStatus() const override;
-    std::vector<WifiNetwork> wifiScan(const std::string& ssid, std::string& error) override;
-    void wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
-                       std::string& error) override;
+    tvpolicy::Result<WifiScan> wifiScan(const std::string& ssid) override;
+    tvpolicy::Result<void> wifiAssociate(const WifiNetwork& network, const std::string& password,
+                                         bool enterprise) override;
     std::vector<WifiSettings> wifiStoredProfiles() const override;
-    bool wifiStoreProfile(const WifiSettings& settings, std::string& error) override;
+    tvpolicy::Result<void> wifiStoreProfile(const WifiSettings& settings) override;
 };
 
 }  // namespace testing_support

@@ -33,8 +33,8 @@ public:
 
     void openURL(const std::string& url) override { openedURLs.push_back(url); }
 
-    std::vector<unsigned char> dnsQuery(const std::string& name, int type,
-                                        const std::optional<tvpolicy::NameServer>& server) const override
+    tvpolicy::Result<std::vector<unsigned char>> dnsQuery(
+        const std::string& name, int type, const std::optional<tvpolicy::NameServer>& server) const override
     {
         std::string query = name + " " + std::to_string(type);
         if (server) {

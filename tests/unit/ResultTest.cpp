@@ -70,4 +70,20 @@ TEST(Result, VoidIsSuccessOrWhy)
     EXPECT_EQ(refused.error(), "disk full");
 }
 
+// A failure's code travels with it through either kind of Result; success has none.
+TEST(Result, CarriesTheFailuresCode)
+{
+    Result<int> value = 7;
+    Result<void> done;
+    EXPECT_EQ(value.code(), 0);
+    EXPECT_EQ(done.code(), 0);
+    Result<int> missing = Failure{"the server answered 404", 404};
+    Result<void> gone = Failure{"the server answered 410", 410};
+    Result<int> plain = Failure{"no reason"};
+    EXPECT_EQ(missing.code(), 404);
+    EXPECT_EQ(gone.code(), 410);
+    EXPECT_EQ(plain.code(), 0);
+    EXPECT_EQ(Result<int>(missing).code(), 404);
+}
+
 }  // namespace

@@ -95,9 +95,8 @@ int main(int argc, char** argv)
 
     cli::Console console;
     if (!logFile.empty()) {
-        std::string error;
-        if (!console.logLibraryOutputTo(logFile, error)) {
-            console.err() << "tvpolicy: " << error << '\n';
+        if (auto logging = console.logLibraryOutputTo(logFile); !logging) {
+            console.err() << "tvpolicy: " << logging.error() << '\n';
             return cli::exitUsage;
         }
     } else if (verbose) {
@@ -116,9 +115,9 @@ int main(int argc, char** argv)
         }
         // Results that did not reach standard output (a full disk, a closed stream) are lost:
         // that is never a success.
-        std::string why;
-        if (!console.outDelivered(why)) {
-            console.err() << "tvpolicy " << sub->get_name() << ": cannot write to standard output: " << why << '\n'
+        if (auto delivered = console.outDelivered(); !delivered) {
+            console.err() << "tvpolicy " << sub->get_name()
+                          << ": cannot write to standard output: " << delivered.error() << '\n'
                           << std::flush;
             return cli::exitUsage;
         }

@@ -9,8 +9,13 @@ namespace tvpolicy {
 
 /// Why a call gave no value, in words for a person ("No such file or directory",
 /// "the server answered 404"). Converts to a Result of any type.
+///
+/// `code` tells failures apart where a caller acts on the difference, not only reports it:
+/// a number whose meaning the failing call documents (an HTTP status, a kind of DNS failure
+/// numbered like the resolver's h_errno); 0 when the words are all there is.
 struct Failure {
     std::string why;
+    int code = 0;
 };
 
 /// What a call of ours gives back when it can fail: its value, or a Failure saying why. The
@@ -63,6 +68,8 @@ public:
         static const std::string none;
         return ok() ? none : std::get<1>(state_).why;
     }
+    /// The failure's code; 0 when ok() or when the failure has none.
+    int code() const { return ok() ? 0 : std::get<1>(state_).code; }
 
 private:
     std::variant<T, Failure> state_;
@@ -72,15 +79,23 @@ template <>
 class [[nodiscard]] Result<void> {
 public:
     Result() = default;
-    Result(Failure failure) : why_(std::move(failure.why)), ok_(false) {}  // NOLINT(google-explicit-constructor)
+    Result(Failure failure)  // NOLINT(google-explicit-constructor)
+        : why_(std::move(failure.why)),
+          code_(failure.code),
+          ok_(false)
+    {
+    }
 
     bool ok() const { return ok_; }
     explicit operator bool() const { return ok_; }
     /// Why it failed; empty when ok().
     const std::string& error() const { return why_; }
+    /// The failure's code; 0 when ok() or when the failure has none.
+    int code() const { return code_; }
 
 private:
     std::string why_;
+    int code_ = 0;
     bool ok_ = true;
 };
 

@@ -35,7 +35,7 @@ public:
     std::map<std::string, std::string> commandOutputs;
     ApplicationListing applications;  ///< answered by applicationListing()
 
-    /// Answer messages of dnsQuery by query name and type; an unlisted query gets none.
+    /// Answer messages of dnsQuery by query name and type; an unlisted query gets no answer.
     std::map<std::pair<std::string, int>, std::vector<unsigned char>> dnsAnswers;
     std::string searchDomain;  ///< answered by dnsDefaultDomain()
 
@@ -51,8 +51,8 @@ public:
     int runShellCommand(const std::string& command) override;
     /// Opens nothing: a described host has no browser.
     void openURL(const std::string& url) override;
-    std::vector<unsigned char> dnsQuery(const std::string& name, int type,
-                                        const std::optional<NameServer>& server) const override;
+    Result<std::vector<unsigned char>> dnsQuery(const std::string& name, int type,
+                                                const std::optional<NameServer>& server) const override;
     std::string dnsDefaultDomain() const override;
     ApplicationListing applicationListing() const override;
 };

@@ -97,10 +97,10 @@ public:
 
     /// One DNS query for `name`, record type `type` (33 SRV, 16 TXT ...), class IN, sent to
     /// `server` when given, else to the system's name servers. The answer message as it came
-    /// (the library parses it); empty when none came within about five seconds or the name
-    /// server reported an error.
-    virtual std::vector<unsigned char> dnsQuery(const std::string& name, int type,
-                                                const std::optional<NameServer>& server) const = 0;
+    /// (the library parses it), or a failure whose code, a DnsFailure, says why there is none:
+    /// no such name, no record of the type, a refusal, or no answer within about five seconds.
+    virtual Result<std::vector<unsigned char>> dnsQuery(const std::string& name, int type,
+                                                        const std::optional<NameServer>& server) const = 0;
     /// The first domain of the resolver's search list, which completes short names; empty
     /// when there is none.
     virtual std::string dnsDefaultDomain() const = 0;

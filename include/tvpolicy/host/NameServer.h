@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/export.h>
 
 namespace tvpolicy {
@@ -17,5 +18,21 @@ struct TVPOLICY_API NameServer {
     /// other text.
     static std::optional<NameServer> parse(const std::string& text);
 };
+
+/// Why a DNS query gave no answer message: the code of its Failure, numbered as the resolver
+/// numbers h_errno.
+enum DnsFailure : int {
+    /// The name server answered that the name does not exist.
+    DnsNoSuchName = 1,
+    /// No answer came within the wait, the server failed the question, or none could be asked.
+    DnsNoAnswer = 2,
+    /// The name server refused the question or could not take it.
+    DnsRefused = 3,
+    /// The name exists and holds no record of the type asked for.
+    DnsNoData = 4,
+};
+
+/// The Failure of a DNS query that ended for `kind`, in words and with `kind` as its code.
+TVPOLICY_API Failure dnsFailure(DnsFailure kind);
 
 }  // namespace tvpolicy

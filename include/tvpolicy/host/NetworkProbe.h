@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/export.h>
 
 namespace tvpolicy {
@@ -76,6 +77,14 @@ public:
         std::string description;
     };
 
+    /// What a scan found: the networks of the name asked for and, when the system refused a
+    /// fresh scan (too soon after the last one, say), why; the networks are then the ones it
+    /// already knew.
+    struct WifiScan {
+        std::vector<WifiNetwork> networks;
+        std::string refusal;
+    };
+
     /// A stored Wi-Fi profile, as the Wi-Fi manager writes and compares them.
     struct WifiSettings {
         std::string ssid;
@@ -134,17 +143,16 @@ public:
     /// The Wi-Fi interface and its network; empty when there is no Wi-Fi interface (or no
     /// service to ask).
     virtual std::optional<WifiStatus> wifiStatus() const = 0;
-    /// Scans for networks named `ssid`; `error` is set when the scan failed.
-    virtual std::vector<WifiNetwork> wifiScan(const std::string& ssid, std::string& error) = 0;
+    /// Scans for networks named `ssid`; a failure when there is nothing to scan with or the
+    /// networks could not be listed.
+    virtual Result<WifiScan> wifiScan(const std::string& ssid) = 0;
     /// One attempt to join `network`: with the stored 802.1X settings when `enterprise`, else
-    /// with `password` (none when empty). `error` is set when the attempt failed.
-    virtual void wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
-                               std::string& error) = 0;
+    /// with `password` (none when empty).
+    virtual Result<void> wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise) = 0;
     /// The stored Wi-Fi profiles.
     virtual std::vector<WifiSettings> wifiStoredProfiles() const = 0;
-    /// Stores `settings` as a new profile, preferred over every other; false with `error`
-    /// set when it could not be stored.
-    virtual bool wifiStoreProfile(const WifiSettings& settings, std::string& error) = 0;
+    /// Stores `settings` as a new profile, preferred over every other.
+    virtual Result<void> wifiStoreProfile(const WifiSettings& settings) = 0;
 };
 
 /// The network probe in use: the real backend unless a ScopedNetwork is alive.

@@ -191,11 +191,11 @@ CycleReport AgentCycle::scanAndReport(const std::string& url, const std::string&
     if (!policyAnswer.ok()) {
         return ended(policyAnswer.none() ? Outcome::unreached : Outcome::cycleFailed, policyAnswer.why(url));
     }
-    std::string error;
-    std::unique_ptr<Policy> policy = parsePolicy(policyAnswer.transfer.contents, url, error);
-    if (!policy) {
-        return ended(Outcome::cycleFailed, error.substr(0, error.find('\n')));
+    Result<std::unique_ptr<Policy>> parsed = parsePolicy(policyAnswer.transfer.contents, url);
+    if (!parsed) {
+        return ended(Outcome::cycleFailed, parsed.error().substr(0, parsed.error().find('\n')));
     }
+    std::unique_ptr<Policy> policy = std::move(parsed).value();
     readIncludes(*policy, console_);
 
     if (!policy->getInitUrl().empty()) {
@@ -235,8 +235,10 @@ CycleReport AgentCycle::scanAndReport(const std::string& url, const std::string&
                   static_cast<long long>(
                       std::chrono::duration_cast<std::chrono::nanoseconds>(started.time_since_epoch()).count()));
     results["agent"] = {{"id", Machine::getHostName()}, {"uid", uid}, {"scan", scan}, {"cycle", cycle}};
-    if (!policy->getResultsUrl().empty() && !state_.queue(policy->getResultsUrl(), results.dump(), error)) {
-        console_.err() << "tvpolicy agent: the results were not kept: " << error << '\n';
+    if (!policy->getResultsUrl().empty()) {
+        if (Result<void> queued = state_.queue(policy->getResultsUrl(), results.dump()); !queued) {
+            console_.err() << "tvpolicy agent: the results were not kept: " << queued.error() << '\n';
+        }
     }
     deliverPending();
 

@@ -39,55 +39,65 @@ std::optional<std::chrono::milliseconds> parseDuration(const std::string& text)
 
 namespace {
 
-bool readText(const toml::node& node, const std::string& key, std::string& target, std::string& error)
+const char* const durationWanted = "`interval` must be a duration such as \"4h\" or a number of seconds";
+const char* const scriptsWanted = "`scripts` must be a list of commands or \"any\"";
+
+Result<std::string> readText(const toml::node& node, const std::string& key)
 {
     if (!node.is_string()) {
-        error = "`" + key + "` must be a string";
-        return false;
+        return Failure{"`" + key + "` must be a string"};
     }
-    target = *node.value<std::string>();
-    return true;
+    return *node.value<std::string>();
 }
 
-bool readScripts(const toml::node& node, ScriptRule& rule, std::string& error)
+Result<ScriptRule> readScripts(const toml::node& node)
 {
     if (node.is_string() && *node.value<std::string>() == "any") {
-        rule = ScriptRule{true, {}};
-        return true;
+        return ScriptRule{true, {}};
     }
     const toml::array* list = node.as_array();
     if (list == nullptr) {
-        error = "`scripts` must be a list of commands or \"any\"";
-        return false;
+        return Failure{scriptsWanted};
     }
-    rule = ScriptRule{};
+    ScriptRule rule;
     for (const toml::node& item : *list) {
         if (!item.is_string()) {
-            error = "`scripts` must be a list of commands or \"any\"";
-            return false;
+            return Failure{scriptsWanted};
         }
         rule.allowed.push_back(*item.value<std::string>());
     }
-    return true;
+    return rule;
 }
 
-bool readLogin(const toml::node& node, std::map<std::string, std::string>& login, std::string& error)
+Result<std::map<std::string, std::string>> readLogin(const toml::node& node)
 {
     const toml::table* table = node.as_table();
     if (table == nullptr) {
-        error = "`login` must be a table of field values";
-        return false;
+        return Failure{"`login` must be a table of field values"};
     }
-    login.clear();
+    std::map<std::string, std::string> login;
     for (const auto& [name, value] : *table) {
-        if (!readText(value, "login." + std::string(name.str()), login[std::string(name.str())], error)) {
-            return false;
+        Result<std::string> text = readText(value, "login." + std::string(name.str()));
+        if (!text) {
+            return Failure{text.error()};
         }
+        login[std::string(name.str())] = std::move(text).value();
     }
-    return true;
+    return login;
 }
 
-bool readKey(const std::string& key, const toml::node& node, AgentSettings& settings, std::string& error)
+// Puts `value` in `target` when there is one; the failure as it is otherwise.
+template <typename T>
+Result<void> store(Result<T> value, T& target)
+{
+    if (!value) {
+        return Failure{value.error()};
+    }
+    target = std::move(value).value();
+    return {};
+}
+
+Result<void> readKey(const std::string& key, const toml::node& node, AgentSettings& settings)
 {
     const std::map<std::string, std::string*> texts = {{"server", &settings.server},
                                                        {"discover", &settings.discover},
@@ -95,72 +105,69 @@ bool readKey(const std::string& key, const toml::node& node, AgentSettings& sett
                                                        {"state_dir", &settings.stateDir},
                                                        {"cacert", &settings.cacert}};
     if (auto text = texts.find(key); text != texts.end()) {
-        return readText(node, key, *text->second, error);
+        return store(readText(node, key), *text->second);
     }
     if (key == "interval") {
         std::string value;
         if (node.is_integer()) {
             value = std::to_string(*node.value<long long>());
-        } else if (!readText(node, key, value, error)) {
-            error = "`interval` must be a duration such as \"4h\" or a number of seconds";
-            return false;
+        } else if (node.is_string()) {
+            value = *node.value<std::string>();
+        } else {
+            return Failure{durationWanted};
         }
         auto duration = parseDuration(value);
         if (!duration) {
-            error = "`interval` must be a duration such as \"4h\" or a number of seconds";
-            return false;
+            return Failure{durationWanted};
         }
         settings.interval = *duration;
-        return true;
+        return {};
     }
     if (key == "allow_http") {
         if (!node.is_boolean()) {
-            error = "`allow_http` must be true or false";
-            return false;
+            return Failure{"`allow_http` must be true or false"};
         }
         settings.allowHttp = *node.value<bool>();
-        return true;
+        return {};
     }
     if (key == "scripts") {
-        return readScripts(node, settings.scripts, error);
+        return store(readScripts(node), settings.scripts);
     }
     if (key == "login") {
-        return readLogin(node, settings.login, error);
+        return store(readLogin(node), settings.login);
     }
-    error = "unknown key `" + key + "`";
-    return false;
+    return Failure{"unknown key `" + key + "`"};
 }
 
 }  // namespace
 
-bool loadSettings(const std::string& path, bool mustExist, AgentSettings& settings, std::string& error)
+Result<AgentSettings> loadSettings(const std::string& path, bool mustExist)
 {
+    AgentSettings settings;
     struct stat info {};
     if (::stat(path.c_str(), &info) != 0) {
         if (errno == ENOENT && !mustExist) {
-            return true;
+            return settings;
         }
-        error = path + ": " + std::strerror(errno);
-        return false;
+        return Failure{path + ": " + std::strerror(errno)};
     }
     toml::table table;
     try {
         table = toml::parse_file(path);
     } catch (const toml::parse_error& failure) {
-        error = path + ":" + std::to_string(failure.source().begin.line) + ": " + std::string(failure.description());
-        return false;
+        return Failure{path + ":" + std::to_string(failure.source().begin.line) + ": " +
+                       std::string(failure.description())};
     }
     if (table.contains("login") && (info.st_mode & (S_IRGRP | S_IROTH)) != 0) {
-        error = path + " holds login values and others may read it: make it readable by its owner only (chmod 600)";
-        return false;
+        return Failure{path +
+                       " holds login values and others may read it: make it readable by its owner only (chmod 600)"};
     }
     for (const auto& [key, node] : table) {
-        if (!readKey(std::string(key.str()), node, settings, error)) {
-            error = path + ": " + error;
-            return false;
+        if (Result<void> read = readKey(std::string(key.str()), node, settings); !read) {
+            return Failure{path + ": " + read.error()};
         }
     }
-    return true;
+    return settings;
 }
 
 }  // namespace tvpolicy::cli::agent

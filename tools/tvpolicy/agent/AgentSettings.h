@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <tvpolicy/base/Result.h>
+
 namespace tvpolicy::cli::agent {
 
 /// Which commands named by a fetched policy may run: none (the default), an exact list, or any.
@@ -34,9 +36,10 @@ struct AgentSettings {
 /// A duration as the configuration writes it: "90" or "90s", "15m", "4h", "1d", "250ms".
 std::optional<std::chrono::milliseconds> parseDuration(const std::string& text);
 
-/// Reads the TOML file `path` into `settings`. False with `error` set (naming the key for an
-/// unknown key or a wrong type) when it cannot be used; a missing file is an error only when
-/// `mustExist`. A file holding login values that others may read is refused.
-bool loadSettings(const std::string& path, bool mustExist, AgentSettings& settings, std::string& error);
+/// The settings of the TOML file `path` over the defaults. A failure (naming the key for an
+/// unknown key or a wrong type) when it cannot be used; a missing file is one only when
+/// `mustExist`, else it gives the defaults. A file holding login values that others may read
+/// is refused.
+Result<AgentSettings> loadSettings(const std::string& path, bool mustExist);
 
 }  // namespace tvpolicy::cli::agent

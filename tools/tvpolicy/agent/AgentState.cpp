@@ -31,19 +31,18 @@ AgentState::AgentState(std::string directory) : directory_(std::move(directory))
 
 std::string AgentState::pendingDir() const { return (fs::path(directory_) / "pending").string(); }
 
-bool AgentState::prepare(std::string& error) const
+Result<void> AgentState::prepare() const
 {
     std::error_code failure;
     fs::create_directories(pendingDir(), failure);
     if (failure) {
-        error = "cannot create the state directory " + directory_ + ": " + failure.message();
-        return false;
+        return Failure{"cannot create the state directory " + directory_ + ": " + failure.message()};
     }
     fs::permissions(directory_, fs::perms::owner_all, fs::perm_options::replace, failure);
-    return true;
+    return {};
 }
 
-bool AgentState::queue(const std::string& url, const std::string& body, std::string& error)
+Result<void> AgentState::queue(const std::string& url, const std::string& body)
 {
     // Milliseconds since the epoch, then a sequence number: names sort in the order written.
     auto now =
@@ -52,14 +51,15 @@ bool AgentState::queue(const std::string& url, const std::string& body, std::str
     char name[48];
     std::snprintf(name, sizeof name, "%015lld-%06u.json", static_cast<long long>(now), sequence_++ % 1000000);
     Json entry = {{"url", url}, {"body", body}};
-    if (!writeFileAtomically((fs::path(pendingDir()) / name).string(), entry.dump(), error)) {
-        return false;
+    Result<void> written = writeFileAtomically((fs::path(pendingDir()) / name).string(), entry.dump());
+    if (!written) {
+        return written;
     }
     std::vector<PendingResults> waiting = pending();
     for (std::size_t i = 0; i + maxPending < waiting.size(); ++i) {
         forget(waiting[i].name);
     }
-    return true;
+    return {};
 }
 
 std::vector<PendingResults> AgentState::pending() const
@@ -87,9 +87,9 @@ void AgentState::forget(const std::string& name) const
     fs::remove(fs::path(pendingDir()) / name, ignored);
 }
 
-bool AgentState::saveVerdict(const Json& verdict, std::string& error) const
+Result<void> AgentState::saveVerdict(const Json& verdict) const
 {
-    return writeFileAtomically((fs::path(directory_) / "last-verdict.json").string(), verdict.dump(2) + '\n', error);
+    return writeFileAtomically((fs::path(directory_) / "last-verdict.json").string(), verdict.dump(2) + '\n');
 }
 
 std::optional<Json> AgentState::lastVerdict() const

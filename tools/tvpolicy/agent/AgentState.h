@@ -7,6 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <tvpolicy/base/Result.h>
+
 namespace tvpolicy::cli::agent {
 
 /// Results not yet taken by the server, waiting in the state directory.
@@ -26,15 +28,15 @@ public:
     explicit AgentState(std::string directory);
 
     /// Creates the directory (owner only) when it is missing.
-    bool prepare(std::string& error) const;
+    Result<void> prepare() const;
 
     /// Keeps results for `url`; the oldest beyond maxPending go.
-    bool queue(const std::string& url, const std::string& body, std::string& error);
+    Result<void> queue(const std::string& url, const std::string& body);
     /// What waits, oldest first.
     std::vector<PendingResults> pending() const;
     void forget(const std::string& name) const;
 
-    bool saveVerdict(const nlohmann::ordered_json& verdict, std::string& error) const;
+    Result<void> saveVerdict(const nlohmann::ordered_json& verdict) const;
     std::optional<nlohmann::ordered_json> lastVerdict() const;
 
     const std::string& directory() const { return directory_; }

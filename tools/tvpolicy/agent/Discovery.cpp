@@ -68,13 +68,12 @@ bool accepts(const std::string& host, unsigned port, const std::atomic<bool>& st
 
 }  // namespace
 
-std::string discoverServer(const std::string& service, const std::string& givenDomain, bool allowHttp,
-                           const std::atomic<bool>& stop, std::string& why)
+Result<std::string> discoverServer(const std::string& service, const std::string& givenDomain, bool allowHttp,
+                                   const std::atomic<bool>& stop)
 {
     std::string domain = givenDomain.empty() ? tvpolicy::currentHost().dnsDefaultDomain() : givenDomain;
     if (domain.empty()) {
-        why = "no server: none is configured and this host has no search domain to discover one in";
-        return std::string();
+        return Failure{"no server: none is configured and this host has no search domain to discover one in"};
     }
     std::list<const SRVRecord*> records = SRVRecord::lookup(service.c_str(), "tcp", domain.c_str());
     std::string target;
@@ -93,16 +92,14 @@ std::string discoverServer(const std::string& service, const std::string& givenD
     SRVRecord::freeRecords(records);
     const std::string name = "_" + service + "._tcp." + domain;
     if (target.empty()) {
-        why = any ? "no server of " + name + " took a connection" : "DNS names no server for " + name;
-        return std::string();
+        return Failure{any ? "no server of " + name + " took a connection" : "DNS names no server for " + name};
     }
     std::shared_ptr<TXTRecord> settings = TXTRecord::lookup(service.c_str(), "tcp", domain.c_str());
     std::string scheme = settings ? settings->getValue("scheme") : std::string();
     std::string path = settings ? settings->getValue("path") : std::string();
     scheme = scheme.empty() ? "https" : scheme;
     if (scheme != "https" && !(scheme == "http" && allowHttp)) {
-        why = "the server of " + name + " is offered over " + scheme + ", which is not allowed";
-        return std::string();
+        return Failure{"the server of " + name + " is offered over " + scheme + ", which is not allowed"};
     }
     if (path.empty() || path.front() != '/') {
         path = '/' + path;

@@ -67,14 +67,15 @@ struct AgentOptions {
     bool status = false;
 };
 
-// The settings of the file with the command line's over them; false with `error` set when
-// they cannot be used.
-bool settle(const AgentOptions& options, AgentSettings& settings, std::string& error)
+// The settings of the file with the command line's over them; a failure when they cannot be
+// used.
+Result<AgentSettings> settle(const AgentOptions& options)
 {
-    settings = AgentSettings{};
-    if (!loadSettings(options.configPath, options.configGiven, settings, error)) {
-        return false;
+    Result<AgentSettings> loaded = loadSettings(options.configPath, options.configGiven);
+    if (!loaded) {
+        return loaded;
     }
+    AgentSettings& settings = *loaded;
     using Override = std::pair<const std::optional<std::string>*, std::string*>;
     for (auto [given, target] : std::initializer_list<Override>{{&options.server, &settings.server},
                                                                 {&options.discover, &settings.discover},
@@ -88,8 +89,7 @@ bool settle(const AgentOptions& options, AgentSettings& settings, std::string& e
     if (options.interval) {
         auto interval = parseDuration(*options.interval);
         if (!interval) {
-            error = "--interval takes a duration such as 4h, 15m or 30s, not '" + *options.interval + "'";
-            return false;
+            return Failure{"--interval takes a duration such as 4h, 15m or 30s, not '" + *options.interval + "'"};
         }
         settings.interval = *interval;
     }
@@ -98,16 +98,15 @@ bool settle(const AgentOptions& options, AgentSettings& settings, std::string& e
         bool https = settings.server.rfind("https://", 0) == 0;
         bool http = settings.server.rfind("http://", 0) == 0;
         if (!https && !(http && settings.allowHttp)) {
-            error = http ? "the server " + settings.server +
-                               " is plain http: allow it with allow_http = true or --allow-http"
-                         : "the server must be an https:// address, not '" + settings.server + "'";
-            return false;
+            return Failure{http ? "the server " + settings.server +
+                                      " is plain http: allow it with allow_http = true or --allow-http"
+                                : "the server must be an https:// address, not '" + settings.server + "'"};
         }
         if (settings.server.back() != '/') {
             settings.server += '/';
         }
     }
-    return true;
+    return loaded;
 }
 
 void applyTrust(const AgentSettings& settings, const std::atomic<bool>& stop)
@@ -153,7 +152,7 @@ public:
     int run();
 
 private:
-    bool reload(std::string& error);
+    Result<void> reload();
     CycleReport cycle(const std::string& reason);
     std::string discover(CycleReport& outcome);
     void keepVerdict(const Json& verdict);
@@ -258,17 +257,19 @@ milliseconds Agent::untilNextMonitor() const
     return soonest;
 }
 
-bool Agent::reload(std::string& error)
+Result<void> Agent::reload()
 {
-    if (!settle(options_, settings_, error)) {
-        return false;
+    Result<AgentSettings> settled = settle(options_);
+    if (!settled) {
+        return Failure{settled.error()};
     }
+    settings_ = std::move(settled).value();
     state_ = std::make_unique<AgentState>(settings_.stateDir);
-    if (!state_->prepare(error)) {
-        return false;
+    if (Result<void> prepared = state_->prepare(); !prepared) {
+        return prepared;
     }
     applyTrust(settings_, signals_.stopFlag());
-    return true;
+    return {};
 }
 
 CycleReport Agent::cycle(const std::string& reason)
@@ -310,32 +311,26 @@ CycleReport Agent::cycle(const std::string& reason)
 // The server's base address from DNS; empty, with `outcome` saying why, when none was found.
 std::string Agent::discover(CycleReport& outcome)
 {
-    struct Found {
-        std::string base;
-        std::string why;
-    };
     const char* lookingUp = "the DNS discovery";
-    std::optional<Found> found = calls_.run(lookingUp, [this] {
-        Found result;
-        result.base = discoverServer(settings_.discover.empty() ? "tvpolicy" : settings_.discover, settings_.domain,
-                                     settings_.allowHttp, signals_.stopFlag(), result.why);
-        return result;
+    std::optional<Result<std::string>> found = calls_.run(lookingUp, [this] {
+        return discoverServer(settings_.discover.empty() ? "tvpolicy" : settings_.discover, settings_.domain,
+                              settings_.allowHttp, signals_.stopFlag());
     });
     if (!found) {
         outcome = stoppedDuring(lookingUp);
         return std::string();
     }
-    if (found->base.empty()) {
-        outcome = CycleReport{Outcome::unreached, "", found->why};
+    if (!*found) {
+        outcome = CycleReport{Outcome::unreached, "", found->error()};
+        return std::string();
     }
-    return found->base;
+    return **found;
 }
 
 void Agent::keepVerdict(const Json& verdict)
 {
-    std::string error;
-    if (!state_->saveVerdict(verdict, error)) {
-        console_.err() << "tvpolicy agent: the verdict was not kept: " << error << '\n';
+    if (Result<void> saved = state_->saveVerdict(verdict); !saved) {
+        console_.err() << "tvpolicy agent: the verdict was not kept: " << saved.error() << '\n';
     }
 }
 
@@ -490,9 +485,8 @@ int Agent::run()
 {
     CommandHost host(tvpolicy::systemHost(), commands_);
     tvpolicy::ScopedHost commandsInGroups(host);
-    std::string error;
-    if (!reload(error)) {
-        console_.err() << "tvpolicy agent: " << error << '\n';
+    if (Result<void> loaded = reload(); !loaded) {
+        console_.err() << "tvpolicy agent: " << loaded.error() << '\n';
         return exitUsage;
     }
     if (options_.status) {
@@ -562,8 +556,8 @@ int Agent::run()
                 return exitPassed;
             }
             if (wake == Wake::reload) {
-                if (!reload(error)) {
-                    console_.err() << "tvpolicy agent: the configuration was not reread: " << error << '\n';
+                if (Result<void> reread = reload(); !reread) {
+                    console_.err() << "tvpolicy agent: the configuration was not reread: " << reread.error() << '\n';
                     continue;
                 }
                 reason = "configuration reread";

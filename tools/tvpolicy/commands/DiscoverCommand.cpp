@@ -8,8 +8,6 @@
 #include <optional>
 #include <string>
 
-#include <netdb.h>
-
 #include <nlohmann/json.hpp>
 
 #include <tvpolicy/agent/SRVRecord.h>
@@ -41,8 +39,7 @@ struct RecordList {
     ~RecordList() { SRVRecord::freeRecords(records); }
 };
 
-// Why a lookup found nothing, as the name server's answer to one SRV question tells it (the
-// resolver keeps the answer's error in h_errno, per thread).
+// Why a lookup found nothing, as the name server's answer to one SRV question tells it.
 struct EmptyAnswer {
     const char* error;  // "no-such-name", "no-records" (the server answered) or "no-answer"
     std::string message;
@@ -52,15 +49,13 @@ struct EmptyAnswer {
 EmptyAnswer whyEmpty(const std::string& name, const std::optional<tvpolicy::NameServer>& server)
 {
     auto started = std::chrono::steady_clock::now();
-    h_errno = 0;
-    bool answered = !tvpolicy::currentHost().dnsQuery(name, 33, server).empty();
-    int error = h_errno;
+    auto answer = tvpolicy::currentHost().dnsQuery(name, 33, server);
     std::string asked = server ? "the name server " + server->address + ":" + std::to_string(server->port)
                                : std::string("the system's name server");
-    if (answered || error == NO_DATA) {
+    if (answer || answer.code() == tvpolicy::DnsNoData) {
         return {"no-records", asked + " answered: " + name + " holds no SRV or TXT record", exitFailed};
     }
-    if (error == HOST_NOT_FOUND) {
+    if (answer.code() == tvpolicy::DnsNoSuchName) {
         return {"no-such-name", asked + " answered: there is no name " + name, exitFailed};
     }
     // A refusal or a server failure comes back at once; silence lasts the whole wait.

@@ -70,9 +70,8 @@ int runPost(const HttpOptions& options, const std::string& body, Console& consol
         }
         console.out() << jsonText(shown) << '\n';
     } else if (exitFor(outcome) == exitPassed && !options.output.empty()) {
-        std::string why;
-        if (!writeFileAtomically(options.output, reply["contents"], why)) {
-            console.err() << "tvpolicy http: " << why << '\n';
+        if (auto written = writeFileAtomically(options.output, reply["contents"]); !written) {
+            console.err() << "tvpolicy http: " << written.error() << '\n';
             return exitUsage;
         }
     } else if (!options.output.empty()) {
@@ -221,9 +220,8 @@ int runHttp(const HttpOptions& options, Console& console)
     } else if (operation == HttpOperation::head) {
         console.out() << outcome.responseCode << '\n';
     } else if (operation == HttpOperation::get && success && !options.output.empty()) {
-        std::string why;
-        if (!writeFileAtomically(options.output, outcome.contents, why)) {
-            console.err() << "tvpolicy http: " << why << '\n';
+        if (auto written = writeFileAtomically(options.output, outcome.contents); !written) {
+            console.err() << "tvpolicy http: " << written.error() << '\n';
             return exitUsage;
         }
     } else if (operation == HttpOperation::get && outcome.completed) {
@@ -233,9 +231,11 @@ int runHttp(const HttpOptions& options, Console& console)
         console.err() << "tvpolicy http: " << outcome.error << '\n';
     }
     if (!options.output.empty() && operation != HttpOperation::head) {
-        if (success && staged && !staged->commit()) {
-            console.err() << "tvpolicy http: " << staged->why() << '\n';
-            return exitUsage;
+        if (success && staged) {
+            if (auto committed = staged->commit(); !committed) {
+                console.err() << "tvpolicy http: " << committed.error() << '\n';
+                return exitUsage;
+            }
         }
         if (!success) {
             console.err() << "tvpolicy http: " << options.output << " was left unchanged: "

@@ -43,7 +43,7 @@ int lint(const LintOptions& options, Console& console)
     std::string policyName;
     // A monitor document is linted as what it is; anything else must be a policy.
     DocumentRead input = readDocument(options.source, defaultMaxDocumentMB << 20);
-    MonitorScan monitors = input.ok ? scanMonitors(input.text) : MonitorScan{};
+    MonitorScan monitors = input ? scanMonitors(*input) : MonitorScan{};
     if (monitors.root != "policy" && monitors.monitors > 0) {
         findings = monitors.notices;
         notes = monitors.notes;

@@ -84,13 +84,13 @@ std::unique_ptr<Policy> fetchPolicy(const RunOptions& options, Console& console,
         status = exitUnfetched;
         return nullptr;
     }
-    std::string error;
-    std::unique_ptr<Policy> policy = parsePolicy(fetched.contents, options.source, error);
-    if (!policy) {
-        console.err() << "tvpolicy run: " << error << '\n';
+    Result<std::unique_ptr<Policy>> parsed = parsePolicy(fetched.contents, options.source);
+    if (!parsed) {
+        console.err() << "tvpolicy run: " << parsed.error() << '\n';
         status = exitUsage;
         return nullptr;
     }
+    std::unique_ptr<Policy> policy = std::move(parsed).value();
     if (!options.allowScripts) {
         setCommandGate([](const std::string& command) {
             return "the command '" + command +
@@ -140,9 +140,8 @@ int deliver(const RunOptions& options, const Json& report, const std::string& tr
         console.out() << body.str();
         return exitPassed;
     }
-    std::string why;
-    if (!writeFileAtomically(options.output, body.str(), why)) {
-        console.err() << "tvpolicy run: the results were not saved: " << why << '\n';
+    if (auto written = writeFileAtomically(options.output, body.str()); !written) {
+        console.err() << "tvpolicy run: the results were not saved: " << written.error() << '\n';
         return exitUsage;
     }
     console.out() << verdictLine(report, style) << '\n';
@@ -152,21 +151,22 @@ int deliver(const RunOptions& options, const Json& report, const std::string& tr
 // The HTML and JUnit files asked for, each written whole or not at all.
 int writeReports(const RunOptions& options, const Json& report, const std::string& trace, Console& console)
 {
-    std::string why;
     if (!options.htmlReport.empty()) {
         Json withTrace = report;
         if (!withTrace.contains("trace")) {
             withTrace["trace"] = linesOf(trace);
         }
-        if (!writeFileAtomically(options.htmlReport, htmlReport(withTrace), why)) {
-            console.err() << "tvpolicy run: the HTML report was not saved: " << why << '\n';
+        if (auto written = writeFileAtomically(options.htmlReport, htmlReport(withTrace)); !written) {
+            console.err() << "tvpolicy run: the HTML report was not saved: " << written.error() << '\n';
             return exitUsage;
         }
     }
     if (!options.junitReport.empty()) {
-        std::string xml = junitReport(report, why);
-        if (xml.empty() || !writeFileAtomically(options.junitReport, xml, why)) {
-            console.err() << "tvpolicy run: the JUnit report was not saved: " << why << '\n';
+        Result<std::string> xml = junitReport(report);
+        Result<void> written =
+            xml ? writeFileAtomically(options.junitReport, *xml) : Result<void>(Failure{xml.error()});
+        if (!written) {
+            console.err() << "tvpolicy run: the JUnit report was not saved: " << written.error() << '\n';
             return exitUsage;
         }
     }
@@ -193,9 +193,8 @@ int reportUnreadable(const RunOptions& options, const PolicyReadFailure& failure
         console.out() << text;
         return status;
     }
-    std::string why;
-    if (!writeFileAtomically(options.output, text, why)) {
-        console.err() << "tvpolicy run: the results were not saved: " << why << '\n';
+    if (auto written = writeFileAtomically(options.output, text); !written) {
+        console.err() << "tvpolicy run: the results were not saved: " << written.error() << '\n';
     }
     return status;
 }
@@ -232,14 +231,13 @@ int runPolicy(const RunOptions& options, Console& console)
         tvpolicy::ScopedHost scope(bounded);
         return evaluate(options, console, &bounded);
     }
-    std::string error;
-    std::unique_ptr<DescribedHost> described = DescribedHost::load(options.hostDescription, error);
+    Result<std::unique_ptr<DescribedHost>> described = DescribedHost::load(options.hostDescription);
     if (!described) {
-        console.err() << "tvpolicy run: --host " << error << '\n';
+        console.err() << "tvpolicy run: --host " << described.error() << '\n';
         return exitUsage;
     }
-    tvpolicy::ScopedHost scope(described->host());
-    tvpolicy::ScopedPosture posture(described->posture());
+    tvpolicy::ScopedHost scope((*described)->host());
+    tvpolicy::ScopedPosture posture((*described)->posture());
     return evaluate(options, console, nullptr);
 }
 

@@ -43,15 +43,14 @@ Console::~Console()
     ::dup2(realErr_.get(), STDERR_FILENO);
 }
 
-bool Console::outDelivered(std::string& why)
+Result<void> Console::outDelivered()
 {
     out_.flush();
     int error = outBuf_.firstError();
     if (error == 0 && out_) {
-        return true;
+        return {};
     }
-    why = error == EBADF ? "it is closed" : std::strerror(error != 0 ? error : EIO);
-    return false;
+    return Failure{error == EBADF ? "it is closed" : std::strerror(error != 0 ? error : EIO)};
 }
 
 void Console::routeLibraryTo(int fd, bool discard)
@@ -80,16 +79,15 @@ void Console::showLibraryOutput()
     routeLibraryTo(realErr_.get(), false);
 }
 
-bool Console::logLibraryOutputTo(const std::string& path, std::string& error)
+Result<void> Console::logLibraryOutputTo(const std::string& path)
 {
     OwnedFd file(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644));
     if (!file) {
-        error = "cannot open log file " + path + ": " + std::strerror(errno);
-        return false;
+        return Failure{"cannot open log file " + path + ": " + std::strerror(errno)};
     }
     sink_ = std::move(file);
     routeLibraryTo(sink_.get(), false);
-    return true;
+    return {};
 }
 
 Console::LibraryStdout::LibraryStdout(Console& console) : console_(console), savedBuffer_(std::cout.rdbuf())

@@ -5,6 +5,7 @@
 #include <string>
 
 #include <tvpolicy/base/OwnedFd.h>
+#include <tvpolicy/base/Result.h>
 #include "io/FdStreamBuf.h"
 
 namespace tvpolicy::cli {
@@ -28,9 +29,9 @@ public:
     int errFd() const { return realErr_.get(); }
     /// The descriptor behind out() (the person's standard output; -1 when it was closed).
     int outFd() const { return realOut_.get(); }
-    /// Flushes out(); false, with `why` set, when anything written to it was lost (a full disk,
-    /// a closed standard output).
-    bool outDelivered(std::string& why);
+    /// Flushes out(); a failure when anything written to it was lost (a full disk, a closed
+    /// standard output).
+    Result<void> outDelivered();
 
     /// The library's output is discarded (the default).
     void hideLibraryOutput();
@@ -38,8 +39,8 @@ public:
     void showLibraryOutput();
     /// Whether the person asked to see the library's output (-v).
     bool libraryShown() const { return libraryShown_; }
-    /// The library's output is appended to `path`; false, with `error` set, if it cannot be opened.
-    bool logLibraryOutputTo(const std::string& path, std::string& error);
+    /// The library's output is appended to `path`; a failure if it cannot be opened.
+    Result<void> logLibraryOutputTo(const std::string& path);
 
     /// While alive, what the library writes to standard output reaches the person's standard
     /// output (for library functions whose printed text is the result, such as a registry dump).

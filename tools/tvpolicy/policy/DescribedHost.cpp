@@ -186,12 +186,11 @@ void describePosture(const Json& document, tvpolicy::DescribedHostProbe& host, t
 
 }  // namespace
 
-std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std::string& error)
+Result<std::unique_ptr<DescribedHost>> DescribedHost::load(const std::string& path)
 {
     std::ifstream in(path, std::ios::binary);
     if (!in) {
-        error = "cannot read '" + path + "'";
-        return nullptr;
+        return Failure{"cannot read '" + path + "'"};
     }
     std::unique_ptr<DescribedHost> described(new DescribedHost);
     tvpolicy::DescribedHostProbe& host = described->host_;
@@ -276,11 +275,9 @@ std::unique_ptr<DescribedHost> DescribedHost::load(const std::string& path, std:
         host.pathMap["/"] = root;
         host.pathMap[""] = root;  // a relative path, which would otherwise meet the working folder
     } catch (const FieldError& failure) {
-        error = path + ": " + failure.what();
-        return nullptr;
+        return Failure{path + ": " + failure.what()};
     } catch (const Json::exception& failure) {
-        error = path + ": not a host description: " + failure.what();
-        return nullptr;
+        return Failure{path + ": not a host description: " + failure.what()};
     }
     return described;
 }

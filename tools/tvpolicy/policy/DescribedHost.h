@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/host/DescribedHostProbe.h>
 #include <tvpolicy/host/PostureProbe.h>
 
@@ -14,8 +15,8 @@ namespace tvpolicy::cli {
 /// folder made for the run and removed with it. Commands are answered from "commands", never run.
 class DescribedHost {
 public:
-    /// Reads `path`; null, with `error` naming the field at fault, when it cannot be used.
-    static std::unique_ptr<DescribedHost> load(const std::string& path, std::string& error);
+    /// Reads `path`; a failure naming the field at fault when it cannot be used.
+    static Result<std::unique_ptr<DescribedHost>> load(const std::string& path);
     ~DescribedHost();
     DescribedHost(const DescribedHost&) = delete;
     DescribedHost& operator=(const DescribedHost&) = delete;

@@ -8,43 +8,40 @@
 #include <utility>
 
 #include <tvpolicy/base/OwnedFd.h>
+#include <tvpolicy/base/Result.h>
 
 namespace tvpolicy::cli {
 
 namespace {
 
-// Reads all of `fd` into `text`; false, with `why` set, on a read error or past `maxBytes`.
-bool readAll(int fd, std::size_t maxBytes, std::string& text, std::string& why)
+// All of `fd`; a failure on a read error or past `maxBytes`.
+Result<std::string> readAll(int fd, std::size_t maxBytes)
 {
     std::string content;
     switch (readBounded(fd, maxBytes, content)) {
-    case ReadEnd::Complete: text = std::move(content); return true;
+    case ReadEnd::Complete: return content;
     case ReadEnd::OverLimit:
-        why = "larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)";
-        return false;
+        return Failure{"larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)"};
     case ReadEnd::WouldBlock:
     case ReadEnd::Failed: break;
     }
-    why = std::strerror(errno);
-    return false;
+    return Failure{std::strerror(errno)};
 }
 
 }  // namespace
 
 DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
 {
-    DocumentRead read;
-    std::string why;
-    auto fail = [&](const std::string& reason) {
-        read.error = "cannot read " + (path == "-" ? std::string("standard input") : "'" + path + "'") + ": " + reason;
-        return read;
+    auto fail = [&](const std::string& reason, int code = 0) -> DocumentRead {
+        return Failure{
+            "cannot read " + (path == "-" ? std::string("standard input") : "'" + path + "'") + ": " + reason, code};
+    };
+    auto readWhole = [&](int fd) {
+        Result<std::string> text = readAll(fd, maxBytes);
+        return text ? text : fail(text.error());
     };
     if (path == "-") {
-        if (!readAll(STDIN_FILENO, maxBytes, read.text, why)) {
-            return fail(why);
-        }
-        read.ok = true;
-        return read;
+        return readWhole(STDIN_FILENO);
     }
     OwnedFd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat info {};
@@ -52,30 +49,25 @@ DocumentRead readDocument(const std::string& path, std::size_t maxBytes)
         return fail(std::strerror(errno));
     }
     if (S_ISDIR(info.st_mode)) {
-        read.directory = true;
-        return fail("is a directory");
+        return fail("is a directory", EISDIR);
     }
     if (S_ISREG(info.st_mode) && static_cast<std::uint64_t>(info.st_size) > maxBytes) {
         return fail("larger than the limit of " + std::to_string(maxBytes >> 20) + " MB (--max-size)");
     }
     // Opened without blocking so that a FIFO without a writer cannot hang the open; reads block.
     ::fcntl(file.get(), F_SETFL, ::fcntl(file.get(), F_GETFL) & ~O_NONBLOCK);
-    if (!readAll(file.get(), maxBytes, read.text, why)) {
-        return fail(why);
-    }
-    read.ok = true;
-    return read;
+    return readWhole(file.get());
 }
 
 std::optional<std::string> loadDocument(Console& console, const std::string& command, const std::string& path,
                                         std::size_t maxBytes)
 {
     DocumentRead read = readDocument(path, maxBytes);
-    if (!read.ok) {
-        console.err() << "tvpolicy " << command << ": " << read.error << '\n';
+    if (!read) {
+        console.err() << "tvpolicy " << command << ": " << read.error() << '\n';
         return std::nullopt;
     }
-    return std::move(read.text);
+    return std::move(read).value();
 }
 
 std::string problemOf(const tvpolicy::DocumentCheck& check, const std::string& text)

@@ -13,13 +13,9 @@ namespace tvpolicy::cli {
 /// Documents larger than this are refused before they are read into memory or parsed.
 constexpr std::size_t defaultMaxDocumentMB = 64;
 
-/// A document's bytes, or why they could not be had.
-struct DocumentRead {
-    bool ok = false;
-    bool directory = false;  // the path names a folder
-    std::string text;
-    std::string error;  // "cannot read PATH: why"
-};
+/// A document's bytes, or why they could not be had: "cannot read PATH: why", with the code
+/// EISDIR when the path names a folder.
+using DocumentRead = Result<std::string>;
 
 /// Reads the file at `path` (standard input for "-") up to `maxBytes`.
 DocumentRead readDocument(const std::string& path, std::size_t maxBytes);

@@ -1,6 +1,7 @@
 #include "policy/PolicyInput.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include <xercesc/sax2/SAX2XMLReader.hpp>
 #include <xercesc/sax2/XMLReaderFactory.hpp>
@@ -51,9 +52,9 @@ std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxByt
     // The policy reader has a limit of its own, which --max-size cannot raise: said as such, not
     // as a document that is not XML.
     constexpr std::size_t readerLimit = std::size_t{16} << 20;
-    if (input.ok && input.text.size() > readerLimit) {
+    if (input && input->size() > readerLimit) {
         std::string cause = "cannot read " + (source == "-" ? std::string("standard input") : "'" + source + "'") +
-                            ": it is " + std::to_string(input.text.size()) +
+                            ": it is " + std::to_string(input->size()) +
                             " bytes, more than the 16 MB a policy may have (the policy reader's own limit, which "
                             "--max-size cannot raise)";
         console.err() << "tvpolicy " << command << ": " << cause << '\n';
@@ -69,21 +70,25 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
                                     Console& console, std::string& bytes, PolicyReadFailure* failure)
 {
     const std::string prefix = "tvpolicy " + command + ": ";
-    if (!input.ok && !input.directory) {
-        console.err() << prefix << input.error << '\n';
+    const bool directory = input.code() == EISDIR;
+    if (!input && !directory) {
+        console.err() << prefix << input.error() << '\n';
         if (failure != nullptr) {
-            failure->cause = input.error;
+            failure->cause = input.error();
         }
         return nullptr;
     }
     std::string error;
     std::string fullMessage;
-    std::unique_ptr<Policy> policy =
-        input.directory ? nullptr : parsePolicy(input.text, sourceName(source), error, &fullMessage);
-    if (input.directory) {
-        std::unique_ptr<Policy> empty(Policy::parseFromString(input.text, true));
+    std::unique_ptr<Policy> policy;
+    if (directory) {
+        std::unique_ptr<Policy> empty(Policy::parseFromString(std::string(), true));
         error = sourceName(source) + ": is a directory\n" + libraryMessage(*empty);
         fullMessage = empty->getFatalErrorMsg();
+    } else if (Result<std::unique_ptr<Policy>> parsed = parsePolicy(*input, sourceName(source), &fullMessage)) {
+        policy = std::move(parsed).value();
+    } else {
+        error = parsed.error();
     }
     if (!policy) {
         // The cause is a line of its own; the library's message after it keeps its own line breaks.
@@ -98,25 +103,22 @@ std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& sourc
         }
         return nullptr;
     }
-    bytes = std::move(input.text);
+    bytes = std::move(input).value();
     return policy;
 }
 
-std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error,
-                                    std::string* fullMessage)
+Result<std::unique_ptr<Policy>> parsePolicy(const std::string& text, const std::string& name, std::string* fullMessage)
 {
     std::unique_ptr<Policy> policy(Policy::parseFromString(text, true));
     if (policy->getFatalParseError()) {
-        error = name + ": " + causeOf(*policy, text) + '\n' + libraryMessage(*policy);
         if (fullMessage != nullptr) {
             *fullMessage = policy->getFatalErrorMsg();
         }
-        return nullptr;
+        return Failure{name + ": " + causeOf(*policy, text) + '\n' + libraryMessage(*policy)};
     }
     if (policy->getRootElement() != "policy") {
-        error =
-            name + " is not a policy: its root element is <" + policy->getRootElement() + ">, a policy's is <policy>";
-        return nullptr;
+        return Failure{name + " is not a policy: its root element is <" + policy->getRootElement() +
+                       ">, a policy's is <policy>"};
     }
     return policy;
 }

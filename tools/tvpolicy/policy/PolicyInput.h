@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/policy/Policy.h>
 
 #include "io/Console.h"
@@ -30,11 +31,11 @@ std::unique_ptr<Policy> readPolicy(const std::string& source, std::size_t maxByt
 std::unique_ptr<Policy> parsePolicy(DocumentRead input, const std::string& source, const std::string& command,
                                     Console& console, std::string& bytes, PolicyReadFailure* failure = nullptr);
 
-/// The same reading of a policy already in memory, named `name` in the messages: null with
-/// `error` set (one or two lines, no prefix) when it is not a policy; `libraryMessage`, when
-/// given, gets the library's own message then.
-std::unique_ptr<Policy> parsePolicy(const std::string& text, const std::string& name, std::string& error,
-                                    std::string* libraryMessage = nullptr);
+/// The same reading of a policy already in memory, named `name` in the messages: a failure
+/// (one or two lines, no prefix) when it is not a policy; `libraryMessage`, when given, gets
+/// the library's own message then.
+Result<std::unique_ptr<Policy>> parsePolicy(const std::string& text, const std::string& name,
+                                            std::string* libraryMessage = nullptr);
 
 /// Reads the sections that the policy builds from an address (`include`) and its options
 /// before the run, telling `console` about each include unless `quiet`.

@@ -191,10 +191,11 @@ Weight weightOf(const Json& report, const Json& item)
 
 }  // namespace
 
-std::string junitReport(const Json& report, std::string& why)
+Result<std::string> junitReport(const Json& report)
 {
     XMLPlatformUtils::Initialize();
     std::string xml;
+    std::string why;
     {
         DOMImplementation* implementation = DOMImplementationRegistry::getDOMImplementation(Wide("LS").get());
         std::unique_ptr<DOMDocument, void (*)(DOMDocument*)> document(
@@ -251,6 +252,9 @@ std::string junitReport(const Json& report, std::string& why)
         }
     }
     XMLPlatformUtils::Terminate();
+    if (xml.empty()) {
+        return Failure{why};
+    }
     return xml;
 }
 

@@ -13,12 +13,11 @@
 
 namespace tvpolicy::cli {
 
-bool writeFileAtomically(const std::string& path, const std::string& content, std::string& why)
+Result<void> writeFileAtomically(const std::string& path, const std::string& content)
 {
     FileBeside staged(path);
     if (staged.name().empty()) {
-        why = staged.why();
-        return false;
+        return Failure{staged.why()};
     }
     OwnedFd file(::open(staged.name().c_str(), O_WRONLY | O_CLOEXEC));
     for (std::size_t done = 0; file && done < content.size();) {
@@ -27,20 +26,14 @@ bool writeFileAtomically(const std::string& path, const std::string& content, st
             continue;
         }
         if (written <= 0) {
-            why = "cannot write '" + path + "': " + std::strerror(errno);
-            return false;
+            return Failure{"cannot write '" + path + "': " + std::strerror(errno)};
         }
         done += static_cast<std::size_t>(written);
     }
     if (!file || ::close(file.release()) != 0) {
-        why = "cannot write '" + path + "': " + std::strerror(errno);
-        return false;
+        return Failure{"cannot write '" + path + "': " + std::strerror(errno)};
     }
-    if (!staged.commit()) {
-        why = staged.why();
-        return false;
-    }
-    return true;
+    return staged.commit();
 }
 
 FileBeside::FileBeside(const std::string& path) : path_(path)
@@ -63,21 +56,19 @@ FileBeside::~FileBeside()
     }
 }
 
-bool FileBeside::commit()
+Result<void> FileBeside::commit()
 {
     OwnedFd file(::open(name_.c_str(), O_RDONLY | O_CLOEXEC));
     mode_t mask = ::umask(0);
     ::umask(mask);
     if (!file || ::fchmod(file.get(), 0666 & ~mask) != 0 || ::fsync(file.get()) != 0) {
-        why_ = "cannot write '" + path_ + "': " + std::strerror(errno);
-        return false;
+        return Failure{"cannot write '" + path_ + "': " + std::strerror(errno)};
     }
     if (std::rename(name_.c_str(), path_.c_str()) != 0) {
-        why_ = "cannot replace '" + path_ + "': " + std::strerror(errno);
-        return false;
+        return Failure{"cannot replace '" + path_ + "': " + std::strerror(errno)};
     }
     name_.clear();
-    return true;
+    return {};
 }
 
 }  // namespace tvpolicy::cli

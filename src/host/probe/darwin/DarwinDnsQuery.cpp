@@ -49,13 +49,25 @@ private:
 
 using Socket = tvpolicy::OwnedFd;
 
+// What the DNS service's callback gathered: the records, and the last negative answer.
+struct Gathered {
+    std::vector<parse::DnsRecord> records;
+    DnsFailure failure = DnsNoAnswer;
+};
+
 void DNSSD_API gather(DNSServiceRef, DNSServiceFlags, uint32_t, DNSServiceErrorType error, const char*, uint16_t type,
                       uint16_t recordClass, uint16_t length, const void* data, uint32_t ttl, void* context)
 {
+    auto* gathered = static_cast<Gathered*>(context);
+    if (error == kDNSServiceErr_NoSuchName) {
+        gathered->failure = DnsNoSuchName;
+    } else if (error == kDNSServiceErr_NoSuchRecord) {
+        gathered->failure = DnsNoData;
+    }
     if (error != kDNSServiceErr_NoError || data == nullptr) {
         return;
     }
-    auto* records = static_cast<std::vector<parse::DnsRecord>*>(context);
+    std::vector<parse::DnsRecord>* records = &gathered->records;
     parse::DnsRecord record;
     record.type = type;
     record.recordClass = recordClass;
@@ -76,13 +88,13 @@ bool readable(int fd)
     return ready > 0 && (entry.revents & (POLLIN | POLLHUP | POLLERR)) != 0;
 }
 
-std::vector<unsigned char> serviceQuery(const std::string& name, int type)
+Result<std::vector<unsigned char>> serviceQuery(const std::string& name, int type)
 {
-    std::vector<parse::DnsRecord> records;
+    Gathered gathered;
     ServiceRef service;
     if (DNSServiceQueryRecord(service.out(), 0, 0, name.c_str(), static_cast<uint16_t>(type), kDNSServiceClass_IN,
-                              &gather, &records) != kDNSServiceErr_NoError) {
-        return {};
+                              &gather, &gathered) != kDNSServiceErr_NoError) {
+        return dnsFailure(DnsNoAnswer);
     }
     const int fd = DNSServiceRefSockFD(service.get());
     while (fd >= 0 && readable(fd)) {
@@ -90,20 +102,35 @@ std::vector<unsigned char> serviceQuery(const std::string& name, int type)
             break;
         }
     }
+    const std::vector<parse::DnsRecord>& records = gathered.records;
     if (records.empty()) {
-        return {};
+        return dnsFailure(gathered.failure);
     }
-    return parse::dnsAnswerMessage(name, static_cast<uint16_t>(type), records);
+    std::vector<unsigned char> message = parse::dnsAnswerMessage(name, static_cast<uint16_t>(type), records);
+    if (message.empty()) {
+        return dnsFailure(DnsNoAnswer);
+    }
+    return message;
 }
 
-std::vector<unsigned char> serverQuery(const std::string& name, int type, const NameServer& server)
+// The kind of failure an answer's response code (RFC 1035 4.1.1) tells.
+DnsFailure kindOf(unsigned char responseCode)
+{
+    switch (responseCode) {
+    case 2: return DnsNoAnswer;  // server failure
+    case 3: return DnsNoSuchName;
+    default: return DnsRefused;  // format error, not implemented, refused, ...
+    }
+}
+
+Result<std::vector<unsigned char>> serverQuery(const std::string& name, int type, const NameServer& server)
 {
     sockaddr_in address{};
     address.sin_len = sizeof address;
     address.sin_family = AF_INET;
     address.sin_port = htons(server.port);
     if (::inet_pton(AF_INET, server.address.c_str(), &address.sin_addr) != 1) {
-        return {};
+        return dnsFailure(DnsNoAnswer);
     }
     const auto id = static_cast<uint16_t>(::arc4random() & 0xFFFF);
     std::vector<unsigned char> query = parse::dnsQueryMessage(id, name, static_cast<uint16_t>(type));
@@ -111,13 +138,17 @@ std::vector<unsigned char> serverQuery(const std::string& name, int type, const 
     if (query.empty() || socket.get() < 0 ||
         ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         ::send(socket.get(), query.data(), query.size(), 0) != static_cast<ssize_t>(query.size())) {
-        return {};
+        return dnsFailure(DnsNoAnswer);
     }
     std::vector<unsigned char> answer(65535);
     while (readable(socket.get())) {
         ssize_t got = ::recv(socket.get(), answer.data(), answer.size(), 0);
         // Only the answer to this query counts; anything else on the socket is passed over.
-        if (got >= 12 && answer[0] == (id >> 8) && answer[1] == (id & 0xFF) && (answer[3] & 0x0F) == 0) {
+        if (got >= 12 && answer[0] == (id >> 8) && answer[1] == (id & 0xFF)) {
+            const auto responseCode = static_cast<unsigned char>(answer[3] & 0x0F);
+            if (responseCode != 0) {
+                return dnsFailure(kindOf(responseCode));
+            }
             answer.resize(static_cast<std::size_t>(got));
             return answer;
         }
@@ -125,13 +156,13 @@ std::vector<unsigned char> serverQuery(const std::string& name, int type, const 
             break;
         }
     }
-    return {};
+    return dnsFailure(DnsNoAnswer);
 }
 
 }  // namespace
 
-std::vector<unsigned char> DarwinHostProbe::dnsQuery(const std::string& name, int type,
-                                                     const std::optional<NameServer>& server) const
+Result<std::vector<unsigned char>> DarwinHostProbe::dnsQuery(const std::string& name, int type,
+                                                             const std::optional<NameServer>& server) const
 {
     return server ? serverQuery(name, type, *server) : serviceQuery(name, type);
 }

@@ -25,8 +25,8 @@ public:
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
-    std::vector<unsigned char> dnsQuery(const std::string& name, int type,
-                                        const std::optional<NameServer>& server) const override;
+    Result<std::vector<unsigned char>> dnsQuery(const std::string& name, int type,
+                                                const std::optional<NameServer>& server) const override;
     std::string dnsDefaultDomain() const override;
     ApplicationListing applicationListing() const override;
 };

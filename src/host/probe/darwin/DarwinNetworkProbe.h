@@ -22,11 +22,10 @@ public:
     GuestTools guestTools() const override;
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     std::optional<WifiStatus> wifiStatus() const override;
-    std::vector<WifiNetwork> wifiScan(const std::string& ssid, std::string& error) override;
-    void wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
-                       std::string& error) override;
+    Result<WifiScan> wifiScan(const std::string& ssid) override;
+    Result<void> wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise) override;
     std::vector<WifiSettings> wifiStoredProfiles() const override;
-    bool wifiStoreProfile(const WifiSettings& settings, std::string& error) override;
+    Result<void> wifiStoreProfile(const WifiSettings& settings) override;
 };
 
 }  // namespace tvpolicy

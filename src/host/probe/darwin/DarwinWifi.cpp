@@ -4,7 +4,7 @@
 // cast to the method's exact type.
 #include "host/probe/darwin/DarwinNetworkProbe.h"
 
-#include <type_traits>
+#include <utility>
 
 #include <objc/message.h>
 #include <objc/runtime.h>
@@ -48,23 +48,19 @@ private:
 };
 
 // CoreWLAN raises Objective-C exceptions (a busy or vanished interface, a malformed profile).
-// The runtime's exceptions unwind like C++ ones, so they end here: the operation gives its
-// fallback and, where it reports one, an error.
-template <typename Operation>
-auto guarded(Operation&& operation, std::string* error) -> decltype(operation())
+// The runtime's exceptions unwind like C++ ones, so they end here: the operation gives
+// `fallback`, a failure where it reports one.
+template <typename Operation, typename Fallback>
+auto guarded(Operation&& operation, Fallback&& fallback) -> decltype(operation())
 {
-    using Result = decltype(operation());
     try {
         return operation();
     } catch (...) {
-        if (error != nullptr) {
-            *error = "CoreWLAN raised an exception";
-        }
-        if constexpr (!std::is_void_v<Result>) {
-            return Result();
-        }
+        return std::forward<Fallback>(fallback);
     }
 }
+
+Failure raised() { return Failure{"CoreWLAN raised an exception"}; }
 
 // An autorelease pool for the length of one operation, drained when it ends.
 class AutoreleasePool {
@@ -116,24 +112,23 @@ std::optional<NetworkProbe::WifiStatus> DarwinNetworkProbe::wifiStatus() const
             status.bssid = text(Send<id()>::call(interface, "bssid"));
             return status;
         },
-        nullptr);
+        std::nullopt);
 }
 
-std::vector<NetworkProbe::WifiNetwork> DarwinNetworkProbe::wifiScan(const std::string& ssid, std::string& error)
+Result<NetworkProbe::WifiScan> DarwinNetworkProbe::wifiScan(const std::string& ssid)
 {
     return guarded(
-        [&]() -> std::vector<WifiNetwork> {
+        [&]() -> Result<WifiScan> {
             AutoreleasePool pool;
-            std::vector<WifiNetwork> networks;
             id interface = currentInterface();
             if (interface == nullptr) {
-                error = "no Wi-Fi interface";
-                return networks;
+                return Failure{"no Wi-Fi interface"};
             }
+            WifiScan scan;
             id scanError = nullptr;
             id found = Send<id(id, id*)>::call(interface, "scanForNetworksWithName:error:", nsString(ssid), &scanError);
             if (scanError != nullptr) {
-                error = errorText(scanError);
+                scan.refusal = errorText(scanError);
             }
             id all = Send<id()>::call(found, "allObjects");
             unsigned long count = Send<unsigned long()>::call(all, "count");
@@ -150,24 +145,22 @@ std::vector<NetworkProbe::WifiNetwork> DarwinNetworkProbe::wifiScan(const std::s
                     }
                 }
                 entry.handle = entry.bssid;
-                networks.push_back(std::move(entry));
+                scan.networks.push_back(std::move(entry));
             }
-            return networks;
+            return scan;
         },
-        &error);
+        raised());
 }
 
-void DarwinNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
-                                       std::string& error)
+Result<void> DarwinNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise)
 {
     return guarded(
-        [&]() -> void {
+        [&]() -> Result<void> {
             AutoreleasePool pool;
             OwnedObject bundle(Send<id(id)>::call(Send<id()>::call(classNamed("NSBundle"), "alloc"), "initWithPath:",
                                                   nsString("/System/Library/Frameworks/CoreWLAN.framework")));
             if (bundle.get() == nullptr) {
-                error = "unable to locate framework bundle";
-                return;
+                return Failure{"unable to locate framework bundle"};
             }
             id interfaceClass =
                 reinterpret_cast<id>(Send<Class(id)>::call(bundle.get(), "classNamed:", nsString("CWInterface")));
@@ -184,8 +177,7 @@ void DarwinNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::st
                 }
             }
             if (target == nullptr) {
-                error = "network not found";
-                return;
+                return Failure{"network not found"};
             }
             id associationError = nullptr;
             if (enterprise) {
@@ -197,10 +189,11 @@ void DarwinNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::st
                                               password.empty() ? nullptr : nsString(password), &associationError);
             }
             if (associationError != nullptr) {
-                error = errorText(associationError);
+                return Failure{errorText(associationError)};
             }
+            return {};
         },
-        &error);
+        raised());
 }
 
 std::vector<NetworkProbe::WifiSettings> DarwinNetworkProbe::wifiStoredProfiles() const
@@ -224,18 +217,17 @@ std::vector<NetworkProbe::WifiSettings> DarwinNetworkProbe::wifiStoredProfiles()
             }
             return profiles;
         },
-        nullptr);
+        std::vector<WifiSettings>());
 }
 
-bool DarwinNetworkProbe::wifiStoreProfile(const WifiSettings& settings, std::string& error)
+Result<void> DarwinNetworkProbe::wifiStoreProfile(const WifiSettings& settings)
 {
     return guarded(
-        [&]() -> bool {
+        [&]() -> Result<void> {
             AutoreleasePool pool;
             id profile = Send<id()>::call(classNamed("CWWirelessProfile"), "profile");
             if (profile == nullptr) {
-                error = "CoreWLAN profiles are not available";
-                return false;
+                return Failure{"CoreWLAN profiles are not available"};
             }
             Send<void(id)>::call(profile, "setSsid:", nsString(settings.ssid));
             Send<void(id)>::call(profile, "setSecurityMode:", nsNumber(settings.securityMode));
@@ -248,12 +240,11 @@ bool DarwinNetworkProbe::wifiStoreProfile(const WifiSettings& settings, std::str
             }
             id configuration = Send<id()>::call(currentInterface(), "configuration");
             if (configuration == nullptr) {
-                error = "no Wi-Fi configuration";
-                return false;
+                return Failure{"no Wi-Fi configuration"};
             }
             id remembered = Send<id()>::call(configuration, "rememberedNetworks");
             if (Send<BOOL(id)>::call(remembered, "containsObject:", profile)) {
-                return true;
+                return {};
             }
             id joined = Send<id(id)>::call(Send<id(id)>::call(classNamed("NSSet"), "setWithObject:", profile),
                                            "setByAddingObjectsFromSet:", remembered);
@@ -275,11 +266,11 @@ bool DarwinNetworkProbe::wifiStoreProfile(const WifiSettings& settings, std::str
                                                            "commitConfiguration:authorization:error:", configuration,
                                                            authorization, &commitError);
             if (!committed) {
-                error = commitError != nullptr ? errorText(commitError) : errorText(authorizationError);
+                return Failure{commitError != nullptr ? errorText(commitError) : errorText(authorizationError)};
             }
-            return committed;
+            return {};
         },
-        &error);
+        raised());
 }
 
 }  // namespace tvpolicy

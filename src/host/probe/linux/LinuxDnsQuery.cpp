@@ -7,6 +7,7 @@
 
 #include <arpa/inet.h>
 #include <arpa/nameser.h>
+#include <netdb.h>
 #include <netinet/in.h>
 #include <resolv.h>
 
@@ -39,14 +40,30 @@ private:
 constexpr int answerWaitSeconds = 5;
 constexpr int tries = 1;
 
+// The kind of a failed query from the resolver's h_errno; anything else it may hold
+// (NETDB_INTERNAL, a query it could not make) means no answer.
+DnsFailure kindOf(int error)
+{
+    switch (error) {
+    case HOST_NOT_FOUND: return DnsNoSuchName;
+    case NO_RECOVERY: return DnsRefused;
+    case NO_DATA: return DnsNoData;
+    default: return DnsNoAnswer;
+    }
+}
+
+static_assert(DnsNoSuchName == HOST_NOT_FOUND && DnsNoAnswer == TRY_AGAIN && DnsRefused == NO_RECOVERY &&
+                  DnsNoData == NO_DATA,
+              "DnsFailure is numbered as h_errno");
+
 }  // namespace
 
-std::vector<unsigned char> LinuxHostProbe::dnsQuery(const std::string& name, int type,
-                                                    const std::optional<NameServer>& server) const
+Result<std::vector<unsigned char>> LinuxHostProbe::dnsQuery(const std::string& name, int type,
+                                                            const std::optional<NameServer>& server) const
 {
     ResolverState resolver;
     if (!resolver.ready()) {
-        return {};
+        return dnsFailure(DnsNoAnswer);
     }
     res_state state = resolver.get();
     state->retrans = answerWaitSeconds;
@@ -56,7 +73,7 @@ std::vector<unsigned char> LinuxHostProbe::dnsQuery(const std::string& name, int
         address.sin_family = AF_INET;
         address.sin_port = htons(server->port);
         if (::inet_pton(AF_INET, server->address.c_str(), &address.sin_addr) != 1) {
-            return {};
+            return dnsFailure(DnsNoAnswer);
         }
         state->nscount = 1;
         state->nsaddr_list[0] = address;
@@ -64,7 +81,7 @@ std::vector<unsigned char> LinuxHostProbe::dnsQuery(const std::string& name, int
     std::vector<unsigned char> answer(NS_MAXMSG);
     int length = ::res_nquery(state, name.c_str(), ns_c_in, type, answer.data(), static_cast<int>(answer.size()));
     if (length <= 0) {
-        return {};
+        return dnsFailure(kindOf(state->res_h_errno));
     }
     answer.resize(static_cast<std::size_t>(length) < answer.size() ? static_cast<std::size_t>(length) : answer.size());
     return answer;

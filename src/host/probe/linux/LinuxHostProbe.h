@@ -34,8 +34,8 @@ public:
     std::string commandOutput(const std::string& command, unsigned long bufferSize) override;
     int runShellCommand(const std::string& command) override;
     void openURL(const std::string& url) override;
-    std::vector<unsigned char> dnsQuery(const std::string& name, int type,
-                                        const std::optional<NameServer>& server) const override;
+    Result<std::vector<unsigned char>> dnsQuery(const std::string& name, int type,
+                                                const std::optional<NameServer>& server) const override;
     std::string dnsDefaultDomain() const override;
     /// The dpkg status database when there is one, else what rpm lists when it is installed.
     ApplicationListing applicationListing() const override;

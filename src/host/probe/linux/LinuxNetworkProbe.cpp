@@ -203,17 +203,16 @@ std::optional<NetworkProbe::WifiStatus> LinuxNetworkProbe::wifiStatus() const
     return device->second;
 }
 
-std::vector<NetworkProbe::WifiNetwork> LinuxNetworkProbe::wifiScan(const std::string& ssid, std::string& error)
+Result<NetworkProbe::WifiScan> LinuxNetworkProbe::wifiScan(const std::string& ssid)
 {
     NetworkManagerClient client;
-    return client.scan(ssid, error);
+    return client.scan(ssid);
 }
 
-void LinuxNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise,
-                                      std::string& error)
+Result<void> LinuxNetworkProbe::wifiAssociate(const WifiNetwork& network, const std::string& password, bool enterprise)
 {
     NetworkManagerClient client;
-    client.associate(network, password, enterprise, error);
+    return client.associate(network, password, enterprise);
 }
 
 std::vector<NetworkProbe::WifiSettings> LinuxNetworkProbe::wifiStoredProfiles() const
@@ -226,10 +225,10 @@ std::vector<NetworkProbe::WifiSettings> LinuxNetworkProbe::wifiStoredProfiles() 
     return profiles;
 }
 
-bool LinuxNetworkProbe::wifiStoreProfile(const WifiSettings& settings, std::string& error)
+Result<void> LinuxNetworkProbe::wifiStoreProfile(const WifiSettings& settings)
 {
     NetworkManagerClient client;
-    return client.store(settings, error);
+    return client.store(settings);
 }
 
 NetworkProbe& systemNetwork()

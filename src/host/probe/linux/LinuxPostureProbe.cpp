@@ -39,9 +39,10 @@ constexpr int tcpListen = 10;
 constexpr int tcpClose = 7;
 
 // The unit's object path from the manager: loaded already, or loaded now.
-std::optional<std::string> unitPath(linux_bus::SystemBus& bus, const std::string& unit, std::string& error)
+Result<std::string> unitPath(linux_bus::SystemBus& bus, const std::string& unit)
 {
     auto append = [&](sd_bus_message* m) { return sd_bus_message_append(m, "s", unit.c_str()); };
+    std::string error;
     for (const char* method : {"GetUnit", "LoadUnit"}) {
         linux_bus::Message reply =
             bus.call(systemd, "/org/freedesktop/systemd1", "org.freedesktop.systemd1.Manager", method, append);
@@ -53,17 +54,16 @@ std::optional<std::string> unitPath(linux_bus::SystemBus& bus, const std::string
             error = bus.lastError();
         }
     }
-    return std::nullopt;
+    return Failure{error};
 }
 
 // The sockets of one family in the `states` mask, read to the end of the dump.
-bool dumpSockets(int family, int protocol, std::uint32_t states, std::vector<parse::DiagSocket>& sockets,
-                 std::string& error)
+Result<std::vector<parse::DiagSocket>> dumpSockets(int family, int protocol, std::uint32_t states)
 {
+    std::vector<parse::DiagSocket> sockets;
     OwnedFd fd(::socket(AF_NETLINK, SOCK_DGRAM | SOCK_CLOEXEC, NETLINK_SOCK_DIAG));
     if (!fd.valid()) {
-        error = std::string("socket diagnostics: ") + std::strerror(errno);
-        return false;
+        return Failure{std::string("socket diagnostics: ") + std::strerror(errno)};
     }
     struct timeval timeout {
         5, 0
@@ -74,8 +74,7 @@ bool dumpSockets(int family, int protocol, std::uint32_t states, std::vector<par
     kernel.nl_family = AF_NETLINK;
     if (::sendto(fd.get(), request.data(), request.size(), 0, reinterpret_cast<sockaddr*>(&kernel), sizeof kernel) <
         0) {
-        error = std::string("socket diagnostics: ") + std::strerror(errno);
-        return false;
+        return Failure{std::string("socket diagnostics: ") + std::strerror(errno)};
     }
     std::vector<unsigned char> buffer(32768);
     for (;;) {
@@ -84,25 +83,23 @@ bool dumpSockets(int family, int protocol, std::uint32_t states, std::vector<par
             continue;
         }
         if (got <= 0) {
-            error = std::string("socket diagnostics: ") + (got < 0 ? std::strerror(errno) : "the dump ended early");
-            return false;
+            return Failure{std::string("socket diagnostics: ") +
+                           (got < 0 ? std::strerror(errno) : "the dump ended early")};
         }
         parse::DiagBatch batch = parse::parseSockDiag(buffer.data(), static_cast<std::size_t>(got));
         sockets.insert(sockets.end(), batch.sockets.begin(), batch.sockets.end());
         if (batch.error != 0) {
             // A protocol the kernel has no diagnostics module for lists nothing.
             if (batch.error == ENOENT) {
-                return true;
+                return sockets;
             }
-            error = std::string("socket diagnostics: ") + std::strerror(batch.error);
-            return false;
+            return Failure{std::string("socket diagnostics: ") + std::strerror(batch.error)};
         }
         if (batch.malformed) {
-            error = "socket diagnostics: a malformed message";
-            return false;
+            return Failure{"socket diagnostics: a malformed message"};
         }
         if (batch.done) {
-            return true;
+            return sockets;
         }
     }
 }
@@ -154,16 +151,15 @@ private:
 };
 
 // The ruleset as JSON, through libnftables or else the nft program.
-bool listRuleset(std::string& json, std::string& error)
+Result<std::string> listRuleset()
 {
     const Nftables* nft = Nftables::get();
     if (nft == nullptr) {
-        json = getOutputFromCommand("nft -j list ruleset 2>/dev/null", 65536);
+        std::string json = getOutputFromCommand("nft -j list ruleset 2>/dev/null", 65536);
         if (json.empty()) {
-            error = "the packet filter cannot be read (no libnftables, and nft printed nothing)";
-            return false;
+            return Failure{"the packet filter cannot be read (no libnftables, and nft printed nothing)"};
         }
-        return true;
+        return json;
     }
     struct CtxFree {
         const Nftables* nft;
@@ -171,21 +167,18 @@ bool listRuleset(std::string& json, std::string& error)
     };
     std::unique_ptr<nft_ctx, CtxFree> ctx(nft->ctxNew(NFT_CTX_DEFAULT), CtxFree{nft});
     if (!ctx) {
-        error = "the packet filter cannot be read (libnftables did not start)";
-        return false;
+        return Failure{"the packet filter cannot be read (libnftables did not start)"};
     }
     nft->setFlags(ctx.get(), NFT_CTX_OUTPUT_JSON);
     nft->bufferOutput(ctx.get());
     nft->bufferError(ctx.get());
     if (nft->run(ctx.get(), "list ruleset") != 0) {
         const char* message = nft->errorBuffer(ctx.get());
-        error = std::string("the packet filter cannot be read: ") +
-                (message != nullptr && *message != '\0' ? parse::sysfsValue(message) : "libnftables failed");
-        return false;
+        return Failure{std::string("the packet filter cannot be read: ") +
+                       (message != nullptr && *message != '\0' ? parse::sysfsValue(message) : "libnftables failed")};
     }
     const char* output = nft->outputBuffer(ctx.get());
-    json = output != nullptr ? output : "";
-    return true;
+    return std::string(output != nullptr ? output : "");
 }
 
 bool isParameterName(const std::string& name)
@@ -204,10 +197,9 @@ PostureProbe::Fact<PostureProbe::UnitState> LinuxPostureProbe::unitState(const s
     if (!bus.connected()) {
         return Fact<UnitState>(Failure{"the system bus does not answer"});
     }
-    std::string error;
-    std::optional<std::string> path = unitPath(bus, unit, error);
+    Result<std::string> path = unitPath(bus, unit);
     if (!path) {
-        return Fact<UnitState>(Failure{"not found (" + error + ")"});
+        return Fact<UnitState>(Failure{"not found (" + path.error() + ")"});
     }
     std::optional<std::string> load = bus.stringProperty(systemd, *path, unitInterface, "LoadState");
     if (load && *load == "not-found") {
@@ -232,13 +224,12 @@ PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> LinuxPostureProbe
     }
     std::vector<ListeningSocket> found;
     for (int family : {AF_INET, AF_INET6}) {
-        std::vector<parse::DiagSocket> sockets;
-        std::string error;
         std::uint32_t states = 1u << (tcp ? tcpListen : tcpClose);
-        if (!dumpSockets(family, tcp ? IPPROTO_TCP : IPPROTO_UDP, states, sockets, error)) {
-            return Fact<std::vector<ListeningSocket>>(Failure{error});
+        Result<std::vector<parse::DiagSocket>> sockets = dumpSockets(family, tcp ? IPPROTO_TCP : IPPROTO_UDP, states);
+        if (!sockets) {
+            return Fact<std::vector<ListeningSocket>>(Failure{sockets.error()});
         }
-        for (const auto& socket : sockets) {
+        for (const auto& socket : *sockets) {
             if (socket.state == (tcp ? tcpListen : tcpClose) && socket.localPort != 0) {
                 found.push_back({protocol, socket.localPort, socket.family == AF_INET6});
             }
@@ -249,13 +240,12 @@ PostureProbe::Fact<std::vector<PostureProbe::ListeningSocket>> LinuxPostureProbe
 
 PostureProbe::Fact<std::vector<PostureProbe::FilterChain>> LinuxPostureProbe::packetFilter() const
 {
-    std::string json;
-    std::string error;
-    if (!listRuleset(json, error)) {
-        return Fact<std::vector<FilterChain>>(Failure{error});
+    Result<std::string> json = listRuleset();
+    if (!json) {
+        return Fact<std::vector<FilterChain>>(Failure{json.error()});
     }
     std::vector<FilterChain> chains;
-    if (!parse::baseChainsFromNftJson(json, chains)) {
+    if (!parse::baseChainsFromNftJson(*json, chains)) {
         return Fact<std::vector<FilterChain>>(Failure{"the packet filter's ruleset is not the JSON expected"});
     }
     return Fact<std::vector<FilterChain>>(std::move(chains));

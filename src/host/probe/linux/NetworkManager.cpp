@@ -381,14 +381,13 @@ std::optional<std::pair<std::string, NetworkProbe::WifiStatus>> NetworkManagerCl
     return std::nullopt;
 }
 
-std::vector<NetworkProbe::WifiNetwork> NetworkManagerClient::scan(const std::string& ssid, std::string& error)
+Result<NetworkProbe::WifiScan> NetworkManagerClient::scan(const std::string& ssid)
 {
-    std::vector<NetworkProbe::WifiNetwork> found;
     auto device = wifiDevice();
     if (!device) {
-        error = "no Wi-Fi device";
-        return found;
+        return Failure{"no Wi-Fi device"};
     }
+    NetworkProbe::WifiScan found;
     Message lastScan = bus_.property(nm, device->first, wirelessIface, "LastScan", "x");
     std::int64_t before = 0;
     bool timed = lastScan && sd_bus_message_read(lastScan.get(), "x", &before) > 0;
@@ -405,7 +404,7 @@ std::vector<NetworkProbe::WifiNetwork> NetworkManagerClient::scan(const std::str
         return r;
     });
     if (!requested) {
-        error = bus_.lastError();  // a scan refused (too soon after the last one) still lists what is known
+        found.refusal = bus_.lastError();  // a scan refused (too soon after the last one) still lists what is known
     } else if (timed) {
         // The results arrive when the scan ends; wait for it a bounded time.
         for (int i = 0; i < 50; ++i) {
@@ -422,13 +421,12 @@ std::vector<NetworkProbe::WifiNetwork> NetworkManagerClient::scan(const std::str
         list = bus_.call(nm, device->first, wirelessIface, "GetAccessPoints");
     }
     if (!list) {
-        error = bus_.lastError();
-        return found;
+        return Failure{bus_.lastError()};
     }
     for (const std::string& path : linux_bus::readPaths(list.get())) {
         std::optional<NetworkProbe::WifiNetwork> network = accessPoint(path);
         if (network && network->ssid == ssid) {
-            found.push_back(std::move(*network));
+            found.networks.push_back(std::move(*network));
         }
     }
     return found;
@@ -449,13 +447,12 @@ bool NetworkManagerClient::waitForActivation(const std::string& activePath)
     return false;
 }
 
-void NetworkManagerClient::associate(const NetworkProbe::WifiNetwork& network, const std::string& password,
-                                     bool enterprise, std::string& error)
+Result<void> NetworkManagerClient::associate(const NetworkProbe::WifiNetwork& network, const std::string& password,
+                                             bool enterprise)
 {
     auto device = wifiDevice();
     if (!device) {
-        error = "no Wi-Fi device";
-        return;
+        return Failure{"no Wi-Fi device"};
     }
     std::string stored;
     for (const StoredWifi& connection : storedWifi()) {
@@ -474,8 +471,7 @@ void NetworkManagerClient::associate(const NetworkProbe::WifiNetwork& network, c
             active = path;
         }
     } else if (enterprise) {
-        error = "no stored 802.1X settings for " + network.ssid;
-        return;
+        return Failure{"no stored 802.1X settings for " + network.ssid};
     } else {
         Settings settings = {{"802-11-wireless", {{"ssid", bytes(network.ssid)}}}};
         const std::vector<int>& modes = network.securityModes;
@@ -494,10 +490,12 @@ void NetworkManagerClient::associate(const NetworkProbe::WifiNetwork& network, c
         }
     }
     if (active.empty()) {
-        error = bus_.lastError();
-    } else if (!waitForActivation(active)) {
-        error = "activation of " + network.ssid + " did not complete";
+        return Failure{bus_.lastError()};
     }
+    if (!waitForActivation(active)) {
+        return Failure{"activation of " + network.ssid + " did not complete"};
+    }
+    return {};
 }
 
 std::vector<NetworkManagerClient::StoredWifi> NetworkManagerClient::storedWifi()
@@ -547,7 +545,7 @@ std::vector<NetworkManagerClient::StoredWifi> NetworkManagerClient::storedWifi()
     return stored;
 }
 
-bool NetworkManagerClient::store(const NetworkProbe::WifiSettings& wifi, std::string& error)
+Result<void> NetworkManagerClient::store(const NetworkProbe::WifiSettings& wifi)
 {
     int priority = 0;
     for (const StoredWifi& connection : storedWifi()) {
@@ -567,10 +565,9 @@ bool NetworkManagerClient::store(const NetworkProbe::WifiSettings& wifi, std::st
     Message reply = bus_.call(nm, settingsPath, settingsIface, "AddConnection",
                               [&settings](sd_bus_message* m) { return appendSettings(m, settings); });
     if (!reply) {
-        error = bus_.lastError();
-        return false;
+        return Failure{bus_.lastError()};
     }
-    return true;
+    return {};
 }
 
 }  // namespace tvpolicy

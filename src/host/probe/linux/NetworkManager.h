@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <tvpolicy/base/Result.h>
 #include <tvpolicy/host/NetworkProbe.h>
 
 #include "host/probe/linux/SdBus.h"
@@ -30,9 +31,8 @@ public:
 
     /// The first Wi-Fi device: its object path and status.
     std::optional<std::pair<std::string, NetworkProbe::WifiStatus>> wifiDevice();
-    std::vector<NetworkProbe::WifiNetwork> scan(const std::string& ssid, std::string& error);
-    void associate(const NetworkProbe::WifiNetwork& network, const std::string& password, bool enterprise,
-                   std::string& error);
+    Result<NetworkProbe::WifiScan> scan(const std::string& ssid);
+    Result<void> associate(const NetworkProbe::WifiNetwork& network, const std::string& password, bool enterprise);
 
     struct StoredWifi {
         std::string path;
@@ -40,7 +40,7 @@ public:
         int priority = 0;
     };
     std::vector<StoredWifi> storedWifi();
-    bool store(const NetworkProbe::WifiSettings& settings, std::string& error);
+    Result<void> store(const NetworkProbe::WifiSettings& settings);
 
 private:
     std::optional<std::string> accessPointOf(const std::string& device);
