@@ -4,10 +4,12 @@
 #include <tvpolicy/agent/AgentConfigXML.h>
 
 #include "FuzzSupport.h"
+#include "ReaderBuffers.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     fuzz::silenceLogs();
+    fuzz::reuseReaderBuffers();
     return 0;
 }
 

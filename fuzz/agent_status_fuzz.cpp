@@ -5,10 +5,12 @@
 #include <tvpolicy/agent/LoginField.h>
 
 #include "FuzzSupport.h"
+#include "ReaderBuffers.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     fuzz::silenceLogs();
+    fuzz::reuseReaderBuffers();
     return 0;
 }
 

@@ -9,10 +9,12 @@
 #include "host/parse/InstalledApplications.h"
 
 #include "FuzzSupport.h"
+#include "ReaderBuffers.h"
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     fuzz::silenceLogs();
+    fuzz::reuseReaderBuffers();
     return 0;
 }
 

@@ -8,6 +8,7 @@
 #include <tvpolicy/checks/MonitorResponse.h>
 
 #include "FuzzSupport.h"
+#include "ReaderBuffers.h"
 
 using com::torvane::policy::Monitor;
 
@@ -24,6 +25,7 @@ void perform(Monitor& monitor, tvpolicy::HostProbe& host)
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     fuzz::initialiseIsolated();
+    fuzz::reuseReaderBuffers();
     return 0;
 }
 

@@ -11,6 +11,7 @@
 #include <tvpolicy/policy/TaskSource.h>
 
 #include "FuzzSupport.h"
+#include "ReaderBuffers.h"
 
 namespace {
 
@@ -43,6 +44,7 @@ void checkSources(Section& section)
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     fuzz::initialiseIsolated();
+    fuzz::reuseReaderBuffers();
     return 0;
 }
 

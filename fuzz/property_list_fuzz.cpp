@@ -8,6 +8,7 @@
 #include "host/parse/PropertyList.h"
 
 #include "FuzzSupport.h"
+#include "ReaderBuffers.h"
 
 namespace {
 
@@ -35,6 +36,7 @@ void walk(const PlistValue& root)
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     fuzz::silenceLogs();
+    fuzz::reuseReaderBuffers();
     return 0;
 }
 
