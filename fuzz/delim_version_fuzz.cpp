@@ -5,6 +5,14 @@
 
 #include <tvpolicy/checks/DelimVersion.h>
 
+#include "FuzzSupport.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    fuzz::discardLogs();
+    return 0;
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     FuzzedDataProvider input(data, size);
