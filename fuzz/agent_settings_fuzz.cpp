@@ -59,6 +59,25 @@ std::string durationText(std::chrono::milliseconds interval)
     std::abort();
 }
 
+/// A TOML basic string.
+std::string quoted(const std::string& text)
+{
+    std::string out = "\"";
+    for (unsigned char c : text) {
+        if (c == '"' || c == '\\') {
+            out += '\\';
+            out += static_cast<char>(c);
+        } else if (c < 0x20 || c == 0x7f) {
+            char escape[8];
+            std::snprintf(escape, sizeof escape, "\\u%04X", c);
+            out += escape;
+        } else {
+            out += static_cast<char>(c);
+        }
+    }
+    return out + "\"";
+}
+
 std::string asToml(const AgentSettings& settings)
 {
     toml::table table{{"server", settings.server},
@@ -77,19 +96,20 @@ std::string asToml(const AgentSettings& settings)
         }
         table.insert("scripts", std::move(allowed));
     }
-    if (!settings.login.empty()) {
-        toml::table login;
-        for (const auto& [field, value] : settings.login) {
-            login.insert(field, value);
-        }
-        table.insert("login", std::move(login));
-    }
     std::ostringstream text;
     // Basic one-line strings only: a multi-line string that starts with a line end would lose
     // it when read back (TOML drops the line end right after the opening quotes).
     text << toml::toml_formatter(table, toml::toml_formatter::default_flags &
                                             ~toml::format_flags::allow_multi_line_strings &
                                             ~toml::format_flags::allow_literal_strings);
+    // The login table by hand: toml++'s formatter writes a key that is a lone apostrophe
+    // without quotes, and the file no longer loads.
+    if (!settings.login.empty()) {
+        text << "\n[login]\n";
+        for (const auto& [field, value] : settings.login) {
+            text << quoted(field) << " = " << quoted(value) << "\n";
+        }
+    }
     return text.str();
 }
 
