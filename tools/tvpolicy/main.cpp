@@ -1,5 +1,4 @@
 #include <iostream>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -35,22 +34,19 @@ int main(int argc, char** argv)
         ->option_text("FILE")
         ->excludes(verboseFlag);
 
-    std::map<CLI::App*, cli::CommandAction> actions;
-    for (const cli::Command& command : cli::registeredCommands()) {
-        CLI::App* sub = app.add_subcommand(command.name, command.description);
-        actions[sub] = command.setup(*sub);
-    }
+    cli::addCommands(app);
 
     // tvpolicy help [SUBCOMMAND]: the same text as --help.
     std::string helpTopic;
     CLI::App* help = app.add_subcommand("help", "Show the help of tvpolicy or of one subcommand");
     help->add_option("SUBCOMMAND", helpTopic, "The subcommand to explain");
-    actions[help] = [&app, &helpTopic](cli::Console& console) {
+    const cli::CommandAction explain = [&app, &helpTopic](cli::Console& console) {
         if (helpTopic.empty()) {
             // app.help() would describe the chosen subcommand, which is this one.
             console.out() << app.get_formatter()->make_help(&app, app.get_name(), CLI::AppFormatMode::Normal);
             return cli::exitPassed;
         }
+        cli::setUpEveryCommand(app);  // their options, for the text
         for (CLI::App* sub : app.get_subcommands({})) {
             if (sub->get_name() == helpTopic) {
                 console.out() << sub->help(app.get_name());  // "Usage: tvpolicy run ...", as run --help
@@ -108,7 +104,7 @@ int main(int argc, char** argv)
     for (CLI::App* sub : app.get_subcommands()) {
         int status = cli::exitUsage;
         try {
-            status = actions.at(sub)(console);
+            status = sub == help ? explain(console) : cli::actionOf(*sub)(console);
         } catch (const std::exception& error) {
             console.err() << "tvpolicy " << sub->get_name() << ": " << error.what() << '\n';
             return cli::exitUsage;

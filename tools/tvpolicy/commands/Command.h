@@ -26,11 +26,22 @@ struct Command {
     std::string description;
     int order;  // position in --help
     std::function<CommandAction(CLI::App& app)> setup;
+    bool hidden = false;  // left out of --help (its options are set up only when it runs)
 };
 
 bool registerCommand(Command command);
 /// The registered subcommands, in --help order.
 std::vector<Command> registeredCommands();
+
+/// Adds every registered command to `root` as a subcommand, named and described. Its options
+/// are added (and its action made) only when the command line names it, or when
+/// `setUpEveryCommand` asks: a start would otherwise spend more on the options of commands
+/// that do not run than on the one that does.
+void addCommands(CLI::App& root);
+/// The action of `sub`, one of the subcommands `addCommands` added, set up first if it is not.
+const CommandAction& actionOf(CLI::App& sub);
+/// Sets up every subcommand that `addCommands` added to `root`, for what shows them all.
+void setUpEveryCommand(CLI::App& root);
 
 /// Exit statuses shared by the subcommands.
 /// 0 passed, 1 failed, 2 a usage error or a document that could not be read (or results that

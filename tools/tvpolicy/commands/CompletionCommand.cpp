@@ -216,7 +216,6 @@ void writeZsh(const std::string& program, const std::vector<CompletionNode>& nod
 
 CommandAction setupCompletion(CLI::App& app)
 {
-    app.group("");  // hidden: for the packages, not for people
     auto shell = std::make_shared<std::string>();
     app.add_option("SHELL", *shell, "bash or zsh")->required()->check(CLI::IsMember({"bash", "zsh"}));
     CLI::App* root = &app;
@@ -224,6 +223,7 @@ CommandAction setupCompletion(CLI::App& app)
         root = root->get_parent();
     }
     return [shell, root](Console& console) {
+        setUpEveryCommand(*root);
         const std::vector<CompletionNode> nodes = walk(*root);
         if (*shell == "bash") {
             writeBash(root->get_name(), nodes, console.out());
@@ -235,7 +235,8 @@ CommandAction setupCompletion(CLI::App& app)
 }
 
 const bool registered =
-    registerCommand({"completion", "Print the bash or zsh completion script", 1000, &setupCompletion});
+    // Hidden: for the packages, not for people.
+    registerCommand({"completion", "Print the bash or zsh completion script", 1000, &setupCompletion, true});
 
 }  // namespace
 }  // namespace tvpolicy::cli

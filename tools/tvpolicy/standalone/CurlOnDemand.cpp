@@ -18,78 +18,57 @@
 #define CURL_DISABLE_TYPECHECK 1
 #include <curl/curl.h>
 
-#include <dlfcn.h>
-
 #include <cstdarg>
-#include <mutex>
-#include <string>
 #include <type_traits>
+
+#include "LibraryOnDemand.h"
 
 namespace {
 
-struct OnDemand {
-    std::mutex mutex;
-    bool tried = false;
-    void* library = nullptr;
-    std::string failure;  // why libcurl could not be loaded
-    long pendingInitFlags = CURL_GLOBAL_DEFAULT;
-    int pendingInits = 0;
+using tvpolicy::standalone::LibraryOnDemand;
+
+// curl_global_init calls made while libcurl was not loaded, replayed when it is. Guarded by the
+// library's lock (whileUnopened, and the Opened callback).
+struct PendingInits {
+    long flags = CURL_GLOBAL_DEFAULT;
+    int count = 0;
 };
 
-OnDemand& state()
+PendingInits& pendingInits()
 {
-    static OnDemand shared;
-    return shared;
+    static PendingInits pending;
+    return pending;
 }
 
-using GlobalInit = decltype(&curl_global_init);
-
-// The loaded library, or null when it cannot be loaded. Held for the life of the process:
-// libcurl keeps global state (its TLS back end) that outlives every handle.
-void* loadedCurl()
+void replayInits(void* library)
 {
-    OnDemand& curl = state();
-    std::lock_guard<std::mutex> lock(curl.mutex);
-    if (!curl.tried) {
-        curl.tried = true;
-        curl.library = dlopen(TVPOLICY_CURL_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-        if (curl.library == nullptr) {
-            const char* reason = dlerror();
-            curl.failure = std::string("cannot load libcurl (" TVPOLICY_CURL_LIBRARY "): ") +
-                           (reason != nullptr ? reason : "unknown error");
-        } else if (auto init = reinterpret_cast<GlobalInit>(dlsym(curl.library, "curl_global_init"))) {
-            for (; curl.pendingInits > 0; --curl.pendingInits) {
-                init(curl.pendingInitFlags);
-            }
+    using GlobalInit = decltype(&curl_global_init);
+    if (auto init = reinterpret_cast<GlobalInit>(dlsym(library, "curl_global_init"))) {
+        for (PendingInits& pending = pendingInits(); pending.count > 0; --pending.count) {
+            init(pending.flags);
         }
     }
-    return curl.library;
 }
 
-template <typename Function>
-Function entry(const char* name)
+LibraryOnDemand& curl()
 {
-    void* library = loadedCurl();
-    return library != nullptr ? reinterpret_cast<Function>(dlsym(library, name)) : nullptr;
+    static LibraryOnDemand library("libcurl", TVPOLICY_CURL_LIBRARY, &replayInits);
+    return library;
 }
 
 }  // namespace
 
-// The real function, looked up once per function on its first call.
-#define TVPOLICY_REAL(name) static const auto real = entry<decltype(&(name))>(#name)
+#define TVPOLICY_REAL(name) TVPOLICY_REAL_IN(curl(), name)
 
 extern "C" {
 
 CURLcode curl_global_init(long flags)
 {
-    OnDemand& curl = state();
-    {
-        std::lock_guard<std::mutex> lock(curl.mutex);
-        if (!curl.tried) {
-            curl.pendingInitFlags |= flags;
-            ++curl.pendingInits;
-            return CURLE_OK;
-        }
+    if (curl().whileUnopened([flags] {
+            pendingInits().flags |= flags;
+            ++pendingInits().count;
+        })) {
+        return CURLE_OK;
     }
     TVPOLICY_REAL(curl_global_init);
     return real != nullptr ? real(flags) : CURLE_FAILED_INIT;
@@ -97,13 +76,8 @@ CURLcode curl_global_init(long flags)
 
 void curl_global_cleanup(void)
 {
-    OnDemand& curl = state();
-    {
-        std::lock_guard<std::mutex> lock(curl.mutex);
-        if (!curl.tried) {
-            curl.pendingInits -= curl.pendingInits > 0 ? 1 : 0;
-            return;
-        }
+    if (curl().whileUnopened([] { pendingInits().count -= pendingInits().count > 0 ? 1 : 0; })) {
+        return;
     }
     TVPOLICY_REAL(curl_global_cleanup);
     if (real != nullptr) {
@@ -183,7 +157,7 @@ CURLcode curl_easy_perform(CURL* handle)
 const char* curl_easy_strerror(CURLcode code)
 {
     TVPOLICY_REAL(curl_easy_strerror);
-    return real != nullptr ? real(code) : state().failure.c_str();
+    return real != nullptr ? real(code) : curl().failure().c_str();
 }
 
 char* curl_easy_escape(CURL* handle, const char* text, int length)

@@ -1,5 +1,8 @@
 #include "host/probe/linux/SdBus.h"
 
+#include <unistd.h>
+
+#include <cstdlib>
 #include <cstring>
 
 namespace tvpolicy::linux_bus {
@@ -11,12 +14,21 @@ struct ErrorHolder {
     ~ErrorHolder() { sd_bus_error_free(&error); }
 };
 
+// Whether a system bus may answer, known without libsystemd: an address the environment names
+// (whatever it is), else the bus's well-known socket, where libsystemd looks then. A program may
+// open libsystemd only on its first call, and a host without a bus need not pay for that.
+bool systemBusMayAnswer()
+{
+    const char* address = std::getenv("DBUS_SYSTEM_BUS_ADDRESS");
+    return (address != nullptr && *address != '\0') || ::access("/run/dbus/system_bus_socket", F_OK) == 0;
+}
+
 }  // namespace
 
 SystemBus::SystemBus(std::uint64_t callTimeoutMicros) : timeout_(callTimeoutMicros)
 {
     sd_bus* bus = nullptr;
-    if (sd_bus_open_system(&bus) >= 0) {
+    if (systemBusMayAnswer() && sd_bus_open_system(&bus) >= 0) {
         bus_ = bus;
     } else {
         error_ = "no system bus";
