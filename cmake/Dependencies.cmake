@@ -32,7 +32,6 @@ find_library(TVPOLICY_NETTLE_STATIC NAMES libnettle.a)
 find_package(ICU REQUIRED COMPONENTS uc)
 find_package(CLI11 CONFIG REQUIRED)
 find_package(nlohmann_json 3 CONFIG REQUIRED)
-find_package(tomlplusplus 3 CONFIG REQUIRED)
 # The operating system's own libraries, used by the host probe's backend (and, for libsystemd's
 # readiness and watchdog calls, by the agent).
 if(APPLE)

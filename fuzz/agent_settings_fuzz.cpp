@@ -5,13 +5,10 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <sstream>
 #include <string>
 
 #include <fcntl.h>
 #include <unistd.h>
-
-#include <toml++/toml.h>
 
 #include "FuzzSupport.h"
 #include "agent/AgentSettings.h"
@@ -80,37 +77,27 @@ std::string quoted(const std::string& text)
 
 std::string asToml(const AgentSettings& settings)
 {
-    toml::table table{{"server", settings.server},
-                      {"discover", settings.discover},
-                      {"domain", settings.domain},
-                      {"state_dir", settings.stateDir},
-                      {"cacert", settings.cacert},
-                      {"allow_http", settings.allowHttp},
-                      {"interval", durationText(settings.interval)}};
+    std::string text = "server = " + quoted(settings.server) + "\ndiscover = " + quoted(settings.discover) +
+                       "\ndomain = " + quoted(settings.domain) + "\nstate_dir = " + quoted(settings.stateDir) +
+                       "\ncacert = " + quoted(settings.cacert) +
+                       "\nallow_http = " + (settings.allowHttp ? "true" : "false") +
+                       "\ninterval = " + quoted(durationText(settings.interval)) + "\nscripts = ";
     if (settings.scripts.any) {
-        table.insert("scripts", "any");
+        text += "\"any\"";
     } else {
-        toml::array allowed;
+        text += "[";
         for (const std::string& command : settings.scripts.allowed) {
-            allowed.push_back(command);
+            text += quoted(command) + ", ";
         }
-        table.insert("scripts", std::move(allowed));
+        text += "]";
     }
-    std::ostringstream text;
-    // Basic one-line strings only: a multi-line string that starts with a line end would lose
-    // it when read back (TOML drops the line end right after the opening quotes).
-    text << toml::toml_formatter(table, toml::toml_formatter::default_flags &
-                                            ~toml::format_flags::allow_multi_line_strings &
-                                            ~toml::format_flags::allow_literal_strings);
-    // The login table by hand: toml++'s formatter writes a key that is a lone apostrophe
-    // without quotes, and the file no longer loads.
     if (!settings.login.empty()) {
-        text << "\n[login]\n";
+        text += "\n[login]\n";
         for (const auto& [field, value] : settings.login) {
-            text << quoted(field) << " = " << quoted(value) << "\n";
+            text += quoted(field) + " = " + quoted(value) + "\n";
         }
     }
-    return text.str();
+    return text;
 }
 
 bool same(const AgentSettings& a, const AgentSettings& b)

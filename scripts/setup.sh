@@ -8,7 +8,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config git scdoc
   libxerces-c-dev libicu-dev libcurl4-gnutls-dev libboost-dev libsystemd-dev
-  libcli11-dev nlohmann-json3-dev nettle-dev libtomlplusplus-dev libpcre2-dev libnftables-dev
+  libcli11-dev nlohmann-json3-dev nettle-dev libpcre2-dev libnftables-dev
   libgtest-dev libgmock-dev libbenchmark-dev libcpp-httplib-dev libssl-dev
   clang libc++-dev libc++abi-dev libclang-rt-dev llvm clang-format clang-tidy
   dnsmasq-base bind9-dnsutils curl iproute2 procps findutils python3 python3-dbusmock dbus util-linux sudo

@@ -172,8 +172,15 @@ INSTANTIATE_TEST_SUITE_P(
                       ConfigCase{"BadInterval", "interval = \"soon\"\n", 0600, "`interval` must be a duration"},
                       ConfigCase{"ScriptsNotAList", "scripts = 3\n", 0600, "`scripts` must be a list"},
                       ConfigCase{"SecretsReadable", "[login]\nusername = \"a\"\n", 0644, "chmod 600"},
-                      ConfigCase{"PlainHttpNotAllowed", "server = \"http://127.0.0.1:1\"\n", 0600,
-                                 "allow_http = true"}),
+                      ConfigCase{"PlainHttpNotAllowed", "server = \"http://127.0.0.1:1\"\n", 0600, "allow_http = true"},
+                      ConfigCase{"NotToml", "interval = 1\nserver = nac.example.net\n", 0600,
+                                 "agent.toml:2: `nac.example.net` is not a value (a text needs quotes)"},
+                      ConfigCase{"HeaderAcrossLines", "[\nlogin]\n\"\"=\"\"\n", 0600,
+                                 "agent.toml:1: expected a key, found the end of the line"},
+                      ConfigCase{"CharacterOutsideText",
+                                 "intrval=3\xcd\xa3"
+                                 "acert\x01\"",
+                                 0600, "agent.toml:1: expected the end of the line, found U+0363"}),
     [](const auto& testCase) { return testCase.param.name; });
 
 // Results the server does not take wait in the state directory, and go at the next cycle it

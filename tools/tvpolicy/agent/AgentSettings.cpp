@@ -1,11 +1,14 @@
 #include "agent/AgentSettings.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 
-#include <toml++/toml.h>
+#include <tvpolicy/base/OwnedFd.h>
+
+#include "agent/TomlReader.h"
 
 namespace tvpolicy::cli::agent {
 
@@ -42,46 +45,46 @@ namespace {
 const char* const durationWanted = "`interval` must be a duration such as \"4h\" or a number of seconds";
 const char* const scriptsWanted = "`scripts` must be a list of commands or \"any\"";
 
-Result<std::string> readText(const toml::node& node, const std::string& key)
+using Kind = TomlValue::Kind;
+
+Result<std::string> readText(const TomlValue& node, const std::string& key)
 {
-    if (!node.is_string()) {
+    if (!node.is(Kind::String)) {
         return Failure{"`" + key + "` must be a string"};
     }
-    return *node.value<std::string>();
+    return node.text;
 }
 
-Result<ScriptRule> readScripts(const toml::node& node)
+Result<ScriptRule> readScripts(const TomlValue& node)
 {
-    if (node.is_string() && *node.value<std::string>() == "any") {
+    if (node.is(Kind::String) && node.text == "any") {
         return ScriptRule{true, {}};
     }
-    const toml::array* list = node.as_array();
-    if (list == nullptr) {
+    if (!node.is(Kind::Array)) {
         return Failure{scriptsWanted};
     }
     ScriptRule rule;
-    for (const toml::node& item : *list) {
-        if (!item.is_string()) {
+    for (const TomlValue& item : node.items) {
+        if (!item.is(Kind::String)) {
             return Failure{scriptsWanted};
         }
-        rule.allowed.push_back(*item.value<std::string>());
+        rule.allowed.push_back(item.text);
     }
     return rule;
 }
 
-Result<std::map<std::string, std::string>> readLogin(const toml::node& node)
+Result<std::map<std::string, std::string>> readLogin(const TomlValue& node)
 {
-    const toml::table* table = node.as_table();
-    if (table == nullptr) {
+    if (!node.is(Kind::Table)) {
         return Failure{"`login` must be a table of field values"};
     }
     std::map<std::string, std::string> login;
-    for (const auto& [name, value] : *table) {
-        Result<std::string> text = readText(value, "login." + std::string(name.str()));
+    for (const auto& [name, value] : node.members) {
+        Result<std::string> text = readText(value, "login." + name);
         if (!text) {
             return Failure{text.error()};
         }
-        login[std::string(name.str())] = std::move(text).value();
+        login[name] = std::move(text).value();
     }
     return login;
 }
@@ -97,7 +100,7 @@ Result<void> store(Result<T> value, T& target)
     return {};
 }
 
-Result<void> readKey(const std::string& key, const toml::node& node, AgentSettings& settings)
+Result<void> readKey(const std::string& key, const TomlValue& node, AgentSettings& settings)
 {
     const std::map<std::string, std::string*> texts = {{"server", &settings.server},
                                                        {"discover", &settings.discover},
@@ -109,10 +112,10 @@ Result<void> readKey(const std::string& key, const toml::node& node, AgentSettin
     }
     if (key == "interval") {
         std::string value;
-        if (node.is_integer()) {
-            value = std::to_string(*node.value<long long>());
-        } else if (node.is_string()) {
-            value = *node.value<std::string>();
+        if (node.is(Kind::Integer)) {
+            value = std::to_string(node.integer);
+        } else if (node.is(Kind::String)) {
+            value = node.text;
         } else {
             return Failure{durationWanted};
         }
@@ -124,10 +127,10 @@ Result<void> readKey(const std::string& key, const toml::node& node, AgentSettin
         return {};
     }
     if (key == "allow_http") {
-        if (!node.is_boolean()) {
+        if (!node.is(Kind::Boolean)) {
             return Failure{"`allow_http` must be true or false"};
         }
-        settings.allowHttp = *node.value<bool>();
+        settings.allowHttp = node.boolean;
         return {};
     }
     if (key == "scripts") {
@@ -137,6 +140,22 @@ Result<void> readKey(const std::string& key, const toml::node& node, AgentSettin
         return store(readLogin(node), settings.login);
     }
     return Failure{"unknown key `" + key + "`"};
+}
+
+/// The whole of a file no larger than a configuration file can sensibly be (a pipe too).
+Result<std::string> readSmallFile(const std::string& path)
+{
+    constexpr std::size_t limit = 1 << 20;
+    const OwnedFd file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file) {
+        return Failure{std::strerror(errno)};
+    }
+    std::string text;
+    switch (readBounded(file.get(), limit, text)) {
+    case ReadEnd::Complete: return text;
+    case ReadEnd::OverLimit: return Failure{"larger than a configuration file can be (1 MiB)"};
+    default: return Failure{std::strerror(errno)};
+    }
 }
 
 }  // namespace
@@ -151,19 +170,20 @@ Result<AgentSettings> loadSettings(const std::string& path, bool mustExist)
         }
         return Failure{path + ": " + std::strerror(errno)};
     }
-    toml::table table;
-    try {
-        table = toml::parse_file(path);
-    } catch (const toml::parse_error& failure) {
-        return Failure{path + ":" + std::to_string(failure.source().begin.line) + ": " +
-                       std::string(failure.description())};
+    Result<std::string> text = readSmallFile(path);
+    if (!text) {
+        return Failure{path + ": " + text.error()};
     }
-    if (table.contains("login") && (info.st_mode & (S_IRGRP | S_IROTH)) != 0) {
+    Result<TomlValue> table = TomlReader::read(*text);
+    if (!table) {
+        return Failure{path + ":" + std::to_string(table.code()) + ": " + table.error()};
+    }
+    if (table->find("login") != nullptr && (info.st_mode & (S_IRGRP | S_IROTH)) != 0) {
         return Failure{path +
                        " holds login values and others may read it: make it readable by its owner only (chmod 600)"};
     }
-    for (const auto& [key, node] : table) {
-        if (Result<void> read = readKey(std::string(key.str()), node, settings); !read) {
+    for (const auto& [key, node] : table->members) {
+        if (Result<void> read = readKey(key, node, settings); !read) {
             return Failure{path + ": " + read.error()};
         }
     }
