@@ -184,6 +184,26 @@ TEST(TomlReader, NestingStopsAtItsLimit)
     EXPECT_NE(tooLong.error().find("more than"), std::string::npos) << tooLong.error();
 }
 
+// A key is looked up by name, not by a walk over its table: a table of 200,000 keys, and a
+// duplicate at its end, are read at once rather than in minutes.
+TEST(TomlReader, ManyKeysAndADuplicateAtTheEnd)
+{
+    std::string text;
+    const int keys = 200000;
+    for (int i = 0; i < keys; ++i) {
+        text += "k" + std::to_string(i) + " = " + std::to_string(i) + "\n";
+    }
+    Result<TomlValue> document = TomlReader::read(text);
+    ASSERT_TRUE(document) << document.error();
+    EXPECT_EQ(document->members.size(), static_cast<std::size_t>(keys));
+    EXPECT_EQ(document->find("k123456")->integer, 123456);
+
+    Result<TomlValue> duplicate = TomlReader::read(text + "k7 = 1\n");
+    ASSERT_FALSE(duplicate);
+    EXPECT_EQ(duplicate.code(), keys + 1);
+    EXPECT_NE(duplicate.error().find("k7 is defined twice"), std::string::npos) << duplicate.error();
+}
+
 // Members keep the order of the file, which is the order in which their faults are named.
 TEST(TomlReader, MembersInTheOrderWritten)
 {

@@ -405,8 +405,7 @@ void Parser::place(TomlValue& table, const Key& key, TomlValue value) const
     for (std::size_t i = 0; i + 1 < key.size(); ++i) {
         TomlValue* next = into->find(key[i]);
         if (next == nullptr) {
-            into->members.push_back({key[i], TomlValue()});
-            next = &into->members.back().value;
+            next = &into->add(key[i]);
             next->dotted = true;
         } else if (!next->is(Kind::Table) || !next->dotted || next->sealed) {
             refuse("a dotted key cannot add to " + shown(key, i + 1) + ", which is defined elsewhere");
@@ -416,7 +415,7 @@ void Parser::place(TomlValue& table, const Key& key, TomlValue value) const
     if (into->find(key.back()) != nullptr) {
         refuse(shown(key) + " is defined twice");
     }
-    into->members.push_back({key.back(), std::move(value)});
+    into->add(key.back(), std::move(value));
 }
 
 TomlValue* Parser::header(TomlValue& root)
@@ -435,8 +434,7 @@ TomlValue* Parser::header(TomlValue& root)
     for (std::size_t i = 0; i + 1 < name.size(); ++i) {
         TomlValue* next = into->find(name[i]);
         if (next == nullptr) {
-            into->members.push_back({name[i], TomlValue()});
-            next = &into->members.back().value;
+            next = &into->add(name[i]);
         } else if (next->is(Kind::Array) && next->tableArray) {
             next = &next->items.back();
         } else if (!next->is(Kind::Table) || next->sealed) {
@@ -447,8 +445,7 @@ TomlValue* Parser::header(TomlValue& root)
     TomlValue* named = into->find(name.back());
     if (element) {
         if (named == nullptr) {
-            into->members.push_back({name.back(), TomlValue()});
-            named = &into->members.back().value;
+            named = &into->add(name.back());
             named->kind = Kind::Array;
             named->tableArray = true;
         } else if (!named->is(Kind::Array) || !named->tableArray) {
@@ -457,8 +454,7 @@ TomlValue* Parser::header(TomlValue& root)
         named->items.emplace_back();
         named = &named->items.back();
     } else if (named == nullptr) {
-        into->members.push_back({name.back(), TomlValue()});
-        named = &into->members.back().value;
+        named = &into->add(name.back());
     } else if (!named->is(Kind::Table) || named->headed || named->dotted || named->sealed) {
         refuse("the table [" + shown(name) + "] is defined twice");
     }

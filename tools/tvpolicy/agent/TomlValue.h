@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tvpolicy::cli::agent {
@@ -17,7 +20,7 @@ struct TomlValue {
     long long integer = 0;            ///< Integer
     bool boolean = false;             ///< Boolean
     std::vector<TomlValue> items;     ///< Array
-    std::vector<TomlMember> members;  ///< Table, in the order of the file
+    std::vector<TomlMember> members;  ///< Table, in the order of the file; added with add()
 
     /// How a table came to be, which decides what may still add to it.
     bool headed = false;      ///< named by its own [header] (or an element of [[header]])
@@ -29,6 +32,13 @@ struct TomlValue {
     /// The member named `key` of a table; null when there is none.
     const TomlValue* find(const std::string& key) const;
     TomlValue* find(const std::string& key);
+    /// Appends the member `key` (not yet there) to a table and gives its value: `value`, or
+    /// an empty table.
+    TomlValue& add(const std::string& key, TomlValue value);
+    TomlValue& add(const std::string& key) { return add(key, TomlValue()); }
+
+private:
+    std::map<std::string, std::size_t> positions_;  ///< where each member is in `members`
 };
 
 struct TomlMember {
@@ -38,17 +48,20 @@ struct TomlMember {
 
 inline const TomlValue* TomlValue::find(const std::string& key) const
 {
-    for (const TomlMember& member : members) {
-        if (member.key == key) {
-            return &member.value;
-        }
-    }
-    return nullptr;
+    const auto found = positions_.find(key);
+    return found == positions_.end() ? nullptr : &members[found->second].value;
 }
 
 inline TomlValue* TomlValue::find(const std::string& key)
 {
     return const_cast<TomlValue*>(static_cast<const TomlValue&>(*this).find(key));
+}
+
+inline TomlValue& TomlValue::add(const std::string& key, TomlValue value)
+{
+    positions_.emplace(key, members.size());
+    members.push_back({key, std::move(value)});
+    return members.back().value;
 }
 
 }  // namespace tvpolicy::cli::agent
